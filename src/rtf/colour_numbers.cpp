@@ -1,0 +1,55 @@
+#include "rtf/colour_numbers.h"
+
+#include <algorithm>
+
+namespace quill::rtf {
+namespace {
+
+constexpr Colour kBlack = 0;
+
+unsigned Part(Colour colour, unsigned which) { return colour >> (8 * which) & 0xFFU; }
+
+}  // namespace
+
+ColourNumbers::ColourNumbers(const ColourTable& table)
+    : table_(table),
+      firstNew_(std::max<std::size_t>(table.entries.size(), table.highestUsed + 1)) {}
+
+std::uint32_t ColourNumbers::NumberOf(Colour colour) {
+  const auto& entries = table_.entries;
+  if (colour == kBlack && (entries.empty() || entries[0].automatic)) return 0;
+  const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
+    return !entry.automatic && entry.colour == colour;
+  });
+  if (found != entries.end()) return static_cast<std::uint32_t>(found - entries.begin());
+  const auto added = std::find(added_.begin(), added_.end(), colour);
+  const auto number = static_cast<std::uint32_t>(firstNew_ + (added - added_.begin()));
+  if (added == added_.end()) added_.push_back(colour);
+  return number;
+}
+
+std::string ColourNumbers::TableInsertion() const {
+  std::string text = table_.present ? "" : "{\\colortbl";
+  if (!table_.endsInSemicolon) text += ';';
+  text.append(Gap(), ';');
+  for (const Colour colour : added_) {
+    text += "\\red" + std::to_string(Part(colour, 0)) + "\\green" +
+            std::to_string(Part(colour, 1)) + "\\blue" + std::to_string(Part(colour, 2)) + ";";
+  }
+  if (!table_.present) text += '}';
+  return text;
+}
+
+std::string ColourNumbers::MirrorInsertion() const {
+  // Parts are counted in hundred thousandths.
+  const auto part = [](Colour colour, unsigned which) {
+    return "\\c" + std::to_string((Part(colour, which) * 100000 + 127) / 255);
+  };
+  std::string text(Gap(), ';');
+  for (const Colour colour : added_) {
+    text += "\\cssrgb" + part(colour, 0) + part(colour, 1) + part(colour, 2) + ";";
+  }
+  return text;
+}
+
+}  // namespace quill::rtf

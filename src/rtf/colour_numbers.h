@@ -1,0 +1,37 @@
+// Numbers of the colour table for colours that a save writes.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "text/source.h"
+
+namespace quill::rtf {
+
+// New colours go behind the highest number that any word of the file uses, not just behind the
+// last entry: a number past the table's end is black until somebody appends an entry there.
+class ColourNumbers {
+ public:
+  // The table must outlive the numbers.
+  explicit ColourNumbers(const ColourTable& table);
+
+  // The number of a colour, new where the table lacks it. Black is the automatic colour where the
+  // table has one.
+  std::uint32_t NumberOf(Colour colour);
+
+  bool HasNew() const { return !added_.empty(); }
+  // What to insert at the table's end for the new colours; a whole table where the file has none.
+  std::string TableInsertion() const;
+  // The same for the table that mirrors it.
+  std::string MirrorInsertion() const;
+
+ private:
+  std::size_t Gap() const { return firstNew_ - table_.entries.size(); }
+
+  const ColourTable& table_;
+  std::size_t firstNew_;
+  std::vector<Colour> added_;
+};
+
+}  // namespace quill::rtf

@@ -1,0 +1,111 @@
+#include "rtf/lexer.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace quill::rtf {
+namespace {
+
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsIgnored(char c) { return c == '\r' || c == '\n' || c == '\0'; }
+
+int HexValue(char c) {
+  if (IsDigit(c)) return c - '0';
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return -1;
+}
+
+// Whether a byte goes on with a run of literal text.
+constexpr std::array<bool, 256> MakeLiteral() {
+  std::array<bool, 256> literal{};
+  literal.fill(true);
+  for (const char c : {'{', '}', '\\', '\r', '\n', '\0'}) literal[static_cast<unsigned char>(c)] = false;
+  return literal;
+}
+constexpr std::array<bool, 256> kLiteral = MakeLiteral();
+
+bool IsLiteral(char c) { return kLiteral[static_cast<unsigned char>(c)]; }
+
+}  // namespace
+
+Token Lexer::Next() {
+  Token token;
+  token.begin = at_;
+  if (AtEnd()) {
+    token.end = at_;
+    return token;
+  }
+  const char c = Here();
+  if (c == '{' || c == '}') {
+    token.kind = c == '{' ? Token::kOpen : Token::kClose;
+    ++at_;
+  } else if (c == '\\') {
+    Backslash(token);
+  } else {
+    Text(token);
+  }
+  token.end = at_;
+  return token;
+}
+
+void Lexer::Text(Token& token) {
+  token.kind = IsIgnored(Here()) ? Token::kIgnored : Token::kText;
+  const auto goesOn = token.kind == Token::kIgnored ? IsIgnored : IsLiteral;
+  const auto* const end = std::find_if_not(bytes_.begin() + at_, bytes_.end(), goesOn);
+  at_ = static_cast<Offset>(end - bytes_.begin());
+}
+
+void Lexer::Backslash(Token& token) {
+  ++at_;
+  if (AtEnd()) {
+    token.kind = Token::kSymbol;
+    token.number = -1;
+  } else if (IsLetter(Here())) {
+    Word(token);
+  } else if (Here() == '\'') {
+    Hex(token);
+  } else {
+    token.kind = Token::kSymbol;
+    token.number = static_cast<unsigned char>(Here());
+    ++at_;
+  }
+}
+
+void Lexer::Word(Token& token) {
+  token.kind = Token::kWord;
+  const Offset begin = at_;
+  while (!AtEnd() && IsLetter(Here())) ++at_;
+  token.word = bytes_.substr(begin, at_ - begin);
+  Number(token);
+  if (!AtEnd() && Here() == ' ') ++at_;
+  if (token.word == "bin" && token.number > 0) {
+    const std::size_t rest = bytes_.size() - at_;
+    at_ += static_cast<Offset>(std::min<std::size_t>(static_cast<std::size_t>(token.number), rest));
+  }
+}
+
+void Lexer::Number(Token& token) {
+  const bool negative = !AtEnd() && Here() == '-';
+  if (negative) ++at_;
+  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+  std::int64_t number = 0;
+  for (; !AtEnd() && IsDigit(Here()); ++at_) {
+    token.hasNumber = true;
+    number = std::min(number * 10 + (Here() - '0'), kMost);
+  }
+  token.number = static_cast<std::int32_t>(negative ? -number : number);
+}
+
+void Lexer::Hex(Token& token) {
+  token.kind = Token::kHex;
+  token.number = -1;
+  ++at_;
+  for (int digits = 0; digits < 2 && !AtEnd() && HexValue(Here()) >= 0; ++digits, ++at_) {
+    token.number = std::max(token.number, 0) * 16 + HexValue(Here());
+  }
+}
+
+}  // namespace quill::rtf

@@ -1,0 +1,50 @@
+#include "rtf/mark_groups.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quill::rtf {
+void MarkGroupFinder::Open(Offset at, const Attributes& inForce) {
+  Characters();
+  if (open_.size() == kDeepest) open_.clear();
+  Candidate candidate;
+  candidate.group.open = at;
+  candidate.group.content = at + 1;
+  candidate.group.outside = inForce;
+  open_.push_back(candidate);
+}
+
+void MarkGroupFinder::Word(const AttributeChange& change, Offset end) {
+  if (open_.empty()) return;
+  Candidate& innermost = open_.back();
+  if (innermost.hasContent) return Other();
+  Merge(innermost.group.words, change);
+  innermost.group.content = end;
+}
+
+void MarkGroupFinder::Characters() {
+  if (open_.empty() || open_.back().hasContent) return;
+  open_.back().hasContent = true;
+  if (open_.back().group.words == AttributeChange{}) Other();
+}
+
+void MarkGroupFinder::Close(Offset at) {
+  if (open_.empty()) return;
+  Candidate& innermost = open_.back();
+  if (!innermost.hasContent) return Other();
+  innermost.group.close = at;
+  found_.push_back(innermost.group);
+  open_.pop_back();
+}
+
+void MarkGroupFinder::GroupIsCharacter() {
+  if (!open_.empty()) open_.pop_back();
+}
+
+std::vector<MarkGroup> MarkGroupFinder::Take() {
+  std::sort(found_.begin(), found_.end(),
+            [](const MarkGroup& a, const MarkGroup& b) { return a.open < b.open; });
+  return std::move(found_);
+}
+
+}  // namespace quill::rtf

@@ -1,0 +1,41 @@
+// Finds the groups of a file that hold words of the four attributes, then characters: marks as
+// they are saved.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "text/source.h"
+
+namespace quill::rtf {
+
+// Told of everything that a reader meets, in order.
+class MarkGroupFinder {
+ public:
+  void Open(Offset at, const Attributes& inForce);
+  // A word that sets attributes and nothing else.
+  void Word(const AttributeChange& change, Offset end);
+  void Characters();
+  // Anything that is neither.
+  void Other() { open_.clear(); }
+  void Close(Offset at);
+  // The group opened last turns out to be one character.
+  void GroupIsCharacter();
+
+  // In the order of their opening braces.
+  std::vector<MarkGroup> Take();
+
+ private:
+  struct Candidate {
+    MarkGroup group;
+    bool hasContent = false;
+  };
+  // Deeper nesting than this is no program's mark.
+  static constexpr std::size_t kDeepest = 32;
+
+  // The innermost open groups that may still be marks, each directly in the one before.
+  std::vector<Candidate> open_;
+  std::vector<MarkGroup> found_;
+};
+
+}  // namespace quill::rtf

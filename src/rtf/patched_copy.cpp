@@ -1,0 +1,93 @@
+#include "rtf/patched_copy.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quill::rtf {
+namespace {
+
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// How the bytes end: in the letters of a control word, in its number, or otherwise.
+enum class Ending { kOther, kLetters, kNumber };
+
+Ending EndingOf(std::string_view bytes) {
+  // No word is longer; a long run of letters is text.
+  constexpr std::size_t kLongest = 300;
+  const std::string_view tail = bytes.substr(bytes.size() - std::min(bytes.size(), kLongest));
+  std::size_t at = tail.size();
+  while (at > 0 && IsDigit(tail[at - 1])) --at;
+  const bool number = at < tail.size();
+  if (at > 0 && tail[at - 1] == '-') --at;
+  const std::size_t lettersEnd = at;
+  while (at > 0 && IsLetter(tail[at - 1])) --at;
+  if (at == lettersEnd) return Ending::kOther;
+  std::size_t backslashes = 0;
+  while (backslashes < at && tail[at - 1 - backslashes] == '\\') ++backslashes;
+  if (backslashes % 2 == 0) return Ending::kOther;
+  return number ? Ending::kNumber : Ending::kLetters;
+}
+
+// Whether the next byte would belong to a control word in front of it.
+bool NeedsBlank(std::string_view before, char next) {
+  if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return false;
+  switch (EndingOf(before)) {
+    case Ending::kLetters:
+      return true;
+    case Ending::kNumber:
+      return IsDigit(next) || next == ' ';
+    case Ending::kOther:
+      return false;
+  }
+  return false;
+}
+
+}  // namespace
+
+PatchedCopy::PatchedCopy(std::string_view source, std::vector<Patch> patches)
+    : source_(source), patches_(std::move(patches)) {
+  out_.reserve(source.size() + source.size() / 16 + 1024);
+}
+
+bool PatchedCopy::OnlyLineEndsUpTo(Offset to) const {
+  if (nextPatch_ < patches_.size() && patches_[nextPatch_].begin < to) return false;
+  const std::string_view gap = source_.substr(at_, to > at_ ? to - at_ : 0);
+  return gap.find_first_not_of("\r\n") == std::string_view::npos;
+}
+
+void PatchedCopy::CopyTo(Offset to) {
+  while (nextPatch_ < patches_.size() && patches_[nextPatch_].begin <= to) {
+    const Patch& patch = patches_[nextPatch_];
+    const bool insertion = patch.begin == patch.end;
+    if (patch.begin == to && !insertion) break;
+    CopyBytes(patch.begin);
+    Append(patch.bytes);
+    SkipTo(patch.end);
+    ++nextPatch_;
+  }
+  CopyBytes(to);
+}
+
+void PatchedCopy::CopyBytes(Offset to) {
+  if (to <= at_) return;
+  if (seam_ && NeedsBlank(out_, source_[at_])) out_ += ' ';
+  seam_ = false;
+  out_ += source_.substr(at_, to - at_);
+  at_ = to;
+}
+
+void PatchedCopy::SkipTo(Offset to) {
+  if (to <= at_) return;
+  at_ = to;
+  seam_ = true;
+}
+
+void PatchedCopy::Append(std::string_view own) {
+  if (own.empty()) return;
+  if (NeedsBlank(out_, own.front())) out_ += ' ';
+  out_ += own;
+  seam_ = true;
+}
+
+}  // namespace quill::rtf

@@ -1,0 +1,26 @@
+// Control words that change the formatting in force.
+#pragma once
+
+#include "rtf/state.h"
+#include "rtf/tables.h"
+#include "rtf/words.h"
+
+namespace quill::rtf {
+
+// What the words refer to.
+struct Tables {
+  FontTable fonts;
+  ColourTable colours;
+  std::int32_t defaultFont = 0;
+  const CodePage* standardPage = nullptr;  // of the document
+};
+
+// Carries out a word of the state. Returns what it sets of the four attributes, where it sets
+// nothing else.
+AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const Tables& tables,
+                               StateStack& states);
+
+// Selects a font, as \f does.
+void SelectFont(std::int32_t number, const Tables& tables, StateStack& states);
+
+}  // namespace quill::rtf

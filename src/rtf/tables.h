@@ -1,0 +1,66 @@
+// The tables in front of a file's text: fonts and colours.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "rtf/code_page.h"
+#include "rtf/lexer.h"
+#include "text/document.h"
+
+namespace quill::rtf {
+
+// Colour words of a file with higher numbers than this are not counted with the table: no program
+// writes them, and a table that reached them would outgrow the file.
+inline constexpr std::int32_t kHighestColour = 32767;
+
+struct Font {
+  std::uint16_t face = 0;  // index into the document's fonts
+  const CodePage* page = nullptr;
+};
+
+class FontTable {
+ public:
+  FontTable();
+
+  // Reads on from inside the table's group to its closing brace, which is the last token taken.
+  // `standard` is the code page of the document.
+  void Read(Lexer& lexer, const CodePage& standard);
+  // The font of a number, or nullptr where the table has none.
+  const Font* Find(std::int32_t number) const;
+  // Face 0 stands for every font that the file does not declare.
+  std::vector<FontFace> TakeFaces() { return std::move(faces_); }
+
+ private:
+  // The font that is being read.
+  struct Entry {
+    bool begun = false;
+    std::int32_t number = 0;
+    int charset = -1;
+    int codePage = 0;
+    std::string name;  // bytes in the font's own code page
+  };
+  void Take(const Token& token, std::string_view bytes);
+  void TakeWord(const Token& token);
+  void Finish();
+
+  std::vector<FontFace> faces_;
+  std::unordered_map<std::int32_t, Font> fonts_;
+  Entry entry_;
+  const CodePage* standard_ = nullptr;
+};
+
+// Reads the colour table on from inside its group to its closing brace.
+void ReadColourTable(Lexer& lexer, ColourTable& table);
+
+// The colour that a number names; black where the entry is automatic or missing.
+Colour ColourOf(const ColourTable& table, std::int32_t number);
+
+// Notes the number of a colour word.
+void NoteColour(ColourTable& table, std::int32_t number);
+
+}  // namespace quill::rtf

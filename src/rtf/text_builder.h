@@ -1,0 +1,68 @@
+// Collects the characters of a text while a file is read, each with its format and its bytes.
+//
+// Bytes of a multi-byte character, and the first half of a surrogate pair, wait here until the
+// rest has come or something else has: then they are U+FFFD.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rtf/state.h"
+#include "text/source.h"
+
+namespace quill::rtf {
+
+class TextBuilder {
+ public:
+  // The states must outlive the builder. `bytes` is the size of the file.
+  TextBuilder(StateStack& states, std::size_t bytes);
+
+  // A character by itself. NUL is none.
+  void Add(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
+  // Literal bytes of the file, from `begin` on.
+  void AddBytes(std::string_view bytes, Offset begin);
+  // One byte, in whatever way the file writes it between the two offsets.
+  void AddByte(unsigned char byte, Offset begin, Offset end);
+  // The number of a \u word. Returns whether it is a character, or half of one, to which what
+  // stands in for it belongs.
+  bool AddUnicode(std::int32_t number, Offset begin, Offset end);
+  // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
+  void ExtendUnicode(Offset end);
+
+  // Whether the last byte leads a multi-byte character that is not whole yet.
+  bool AwaitsByte() const { return !sequence_.empty(); }
+  // A word other than \u comes: bytes that wait are over, and a pair holds formatting.
+  void WordComes();
+  // A brace or a character comes: nothing waits any longer.
+  void Flush();
+
+  std::size_t Size() const { return text_.size(); }
+  std::u32string TakeText() { return std::move(text_); }
+  std::vector<FormatId> TakeFormats() { return std::move(formats_); }
+  std::vector<Origin> TakeOrigins() { return std::move(origins_); }
+
+ private:
+  void Put(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
+  void PutAscii(std::string_view bytes, Offset begin);
+  void EndSequence();
+  void EndPair();
+
+  StateStack& states_;
+  std::u32string text_;
+  std::vector<FormatId> formats_;
+  std::vector<Origin> origins_;
+
+  std::string sequence_;  // bytes of a character that is not whole yet
+  Offset sequenceBegin_ = 0;
+  Offset sequenceEnd_ = 0;
+
+  char32_t highHalf_ = 0;     // of a pair, or 0
+  bool pairIsOpen_ = false;  // words stand behind the high half
+  Offset pairBegin_ = 0;
+  Offset pairEnd_ = 0;
+};
+
+}  // namespace quill::rtf

@@ -1,0 +1,73 @@
+// The control words that the reader knows, and what each is for.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace quill::rtf {
+
+enum class Word : std::uint8_t {
+  kUnknown,
+  kKnown,       // formatting that the program does not show; its text is text all the same
+  kHeader,      // may stand in front of the first table of a file
+  // Characters. The argument is the code point where it is not fixed.
+  kCharacter,
+  kParagraph,   // a paragraph end
+  kCell,
+  kRow,
+  kUnicode,     // \u
+  // Groups.
+  kSkipped,     // a destination whose content is no text of the document
+  kTransparent,  // a destination whose content is text
+  kFontTable,
+  kColourTable,
+  kExpandedColourTable,
+  kObject,      // stands for one character
+  kPictureForm,  // one of two forms of the same picture
+  kAlternatives,  // \upr: the first group gives way to the second
+  // State.
+  kPlain,
+  kParagraphDefaults,
+  kColour,
+  kOtherColour,  // names an entry of the colour table for something else than the characters
+  kBold,
+  kAssociatedBold,
+  kUnderline,
+  kNoUnderline,
+  kUp,
+  kDown,
+  kItalic,
+  kStrike,
+  kHidden,
+  kScript,       // argument: 1, -1, 0
+  kBackground,
+  kFont,
+  kFontSize,
+  kDirection,    // of the run; argument: 1 right to left
+  kFallback,     // \uc
+  kAlignment,    // argument: an Alignment
+  kParagraphDirection,
+  kInTable,
+  kLeftIndent,
+  kRightIndent,
+  kFirstIndent,
+  kSpaceBefore,
+  kSpaceAfter,
+  // Character sets.
+  kDefaultFont,
+  kAnsiCodePage,
+  kCharacterSet,  // \mac and the like; argument: the code page
+  kFontCharset,
+  kFontCodePage,
+};
+
+struct WordEntry {
+  std::string_view name;
+  Word word = Word::kUnknown;
+  std::int32_t argument = 0;
+};
+
+// The entry of a word; that of an unknown word is kUnknown. Case counts.
+const WordEntry& LookUp(std::string_view name);
+
+}  // namespace quill::rtf

@@ -1,0 +1,349 @@
+// The writer copies the source. A stretch of characters whose attributes are not those of its
+// place is put into a group of its own, which sets the attributes and ends in front of whatever
+// else the file says there: nothing outside can come undone at its brace. Groups that an earlier
+// save made in this way are taken apart again where their characters changed, and stay only where
+// they still save words: so a file does not grow by marking and unmarking.
+#include "rtf/writer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "rtf/colour_numbers.h"
+#include "rtf/encode.h"
+#include "rtf/patched_copy.h"
+
+namespace quill::rtf {
+namespace {
+
+constexpr Twips kTwipsInHalfPoint = 10;
+
+// Attributes as a file can hold them: a raised position in whole half-points, never rounded away.
+Attributes InFile(Attributes attributes) {
+  const int halfPoints =
+      static_cast<int>(std::lround(static_cast<double>(attributes.offset) / kTwipsInHalfPoint));
+  const int least = attributes.offset > 0 ? 1 : attributes.offset < 0 ? -1 : 0;
+  attributes.offset = (halfPoints != 0 ? halfPoints : least) * kTwipsInHalfPoint;
+  return attributes;
+}
+
+// A range of character indices.
+struct Span {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+};
+
+class Writer {
+ public:
+  explicit Writer(const Document& document);
+
+  std::string Write();
+
+ private:
+  // A group with those directly and indirectly in it: a range of the source's list.
+  struct Tree {
+    std::size_t first = 0;
+    std::size_t end = 0;
+  };
+
+  bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]]; }
+  bool IsLoose(std::size_t character) const {
+    return IsChanged(character) || origins_[character].IsTyped();
+  }
+  const Attributes& Target(std::size_t character) const {
+    return targets_[formatIds_[character]];
+  }
+  Span CharactersOf(const MarkGroup& group) const;
+  void FindTouchedTrees();
+  void NumberColours();
+  std::vector<Patch> Patches() const;
+
+  template <class Visitor>
+  void Walk(const Tree& tree, Visitor&& visitor) const;
+  std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
+  void EmitTree(const Tree& tree);
+  void Emit(std::size_t character, const Attributes& inForce);
+  void EmitBytes(std::size_t character);
+  std::string Words(const Attributes& from, const Attributes& to, bool rightToLeft);
+  void OpenWrap(std::size_t character, const Attributes& inForce);
+  void CloseWrap();
+
+  const Document& document_;
+  const Source& source_;
+  const std::vector<FormatId>& formatIds_;
+  const std::vector<Origin>& origins_;
+  std::vector<Attributes> targets_;  // of each format, as the file is to have it
+  std::vector<bool> changed_;        // whether that differs from what its place has
+  std::vector<Tree> touched_;        // groups with a changed character in them, in order
+  ColourNumbers colours_;
+  PatchedCopy out_;
+
+  // The group that is being written around a stretch of characters.
+  struct Wrap {
+    bool open = false;
+    Attributes inForce;
+    Attributes target;
+    bool rightToLeft = false;
+  };
+  Wrap wrap_;
+};
+
+Writer::Writer(const Document& document)
+    : document_(document),
+      source_(document.GetSource()),
+      formatIds_(document.FormatIds()),
+      origins_(document.Origins()),
+      colours_(source_.colours),
+      out_("", {}) {
+  const FormatTable& formats = document.Formats();
+  for (FormatId id = 0; id < formats.Size(); ++id) {
+    targets_.push_back(InFile(formats[id].now));
+    changed_.push_back(targets_.back() != formats[id].written);
+  }
+}
+
+std::string Writer::Write() {
+  const bool nothing =
+      document_.Cuts().empty() &&
+      std::none_of(origins_.begin(), origins_.end(), [](const Origin& o) { return o.IsTyped(); }) &&
+      std::none_of(formatIds_.begin(), formatIds_.end(), [&](FormatId id) { return changed_[id]; });
+  if (nothing) return source_.bytes;
+
+  FindTouchedTrees();
+  NumberColours();
+  out_ = PatchedCopy(source_.bytes, Patches());
+  std::size_t character = 0;
+  for (const Tree& tree : touched_) {
+    const Span inside = CharactersOf(source_.groups[tree.first]);
+    for (; character < inside.begin; ++character) {
+      if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
+    }
+    EmitTree(tree);
+    character = inside.end;
+  }
+  for (; character < origins_.size(); ++character) {
+    if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
+  }
+  CloseWrap();
+  out_.CopyTo(static_cast<Offset>(source_.bytes.size()));
+  return out_.Take();
+}
+
+// The characters between the braces of a group. A character typed at its opening brace stands in
+// front of it, one typed at its closing brace inside.
+Span Writer::CharactersOf(const MarkGroup& group) const {
+  const auto behind = [](Offset offset, const Origin& origin) { return offset < origin.begin; };
+  const auto first = std::upper_bound(origins_.begin(), origins_.end(), group.open, behind);
+  const auto last = std::upper_bound(first, origins_.end(), group.close, behind);
+  return {static_cast<std::size_t>(first - origins_.begin()),
+          static_cast<std::size_t>(last - origins_.begin())};
+}
+
+void Writer::FindTouchedTrees() {
+  const std::vector<MarkGroup>& groups = source_.groups;
+  for (std::size_t at = 0; at < groups.size();) {
+    Tree tree{at, at + 1};
+    while (tree.end < groups.size() && groups[tree.end].open < groups[at].close) ++tree.end;
+    const Span inside = CharactersOf(groups[at]);
+    for (std::size_t i = inside.begin; i < inside.end; ++i) {
+      if (!IsChanged(i)) continue;
+      touched_.push_back(tree);
+      break;
+    }
+    at = tree.end;
+  }
+}
+
+// Every colour that will be written gets its number before the table is copied.
+void Writer::NumberColours() {
+  std::vector<bool> used(targets_.size());
+  for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id];
+  for (const Tree& tree : touched_) {
+    const Span inside = CharactersOf(source_.groups[tree.first]);
+    for (std::size_t i = inside.begin; i < inside.end; ++i) used[formatIds_[i]] = true;
+  }
+  for (FormatId id = 0; id < used.size(); ++id) {
+    const Attributes& written = document_.Formats()[id].written;
+    if (used[id] && targets_[id].colour != written.colour) colours_.NumberOf(targets_[id].colour);
+  }
+}
+
+std::vector<Patch> Writer::Patches() const {
+  std::vector<Patch> patches;
+  for (const auto& [begin, end] : document_.Cuts()) patches.push_back({begin, end, ""});
+  if (colours_.HasNew()) {
+    const ColourTable& table = source_.colours;
+    patches.push_back({table.end, table.end, colours_.TableInsertion()});
+    if (table.expandedEnd != 0) {
+      patches.push_back({table.expandedEnd, table.expandedEnd, colours_.MirrorInsertion()});
+    }
+  }
+  std::stable_sort(patches.begin(), patches.end(), [](const Patch& a, const Patch& b) {
+    return a.begin < b.begin || (a.begin == b.begin && a.end < b.end);
+  });
+  return patches;
+}
+
+// Visits the braces of a tree's groups and the characters between them in the order of the file.
+template <class Visitor>
+void Writer::Walk(const Tree& tree, Visitor&& visitor) const {
+  const std::vector<MarkGroup>& groups = source_.groups;
+  std::size_t character = CharactersOf(groups[tree.first]).begin;
+  std::size_t next = tree.first + 1;
+  std::vector<std::size_t> open = {tree.first};
+  visitor.Open(tree.first);
+  while (!open.empty()) {
+    const Offset close = groups[open.back()].close;
+    const Offset brace = next < tree.end ? std::min(close, groups[next].open) : close;
+    if (character < origins_.size() && origins_[character].begin <= brace) {
+      visitor.Character(character++, open.back());
+    } else if (brace == close) {
+      visitor.Close(open.back());
+      open.pop_back();
+    } else {
+      visitor.Open(next);
+      open.push_back(next++);
+    }
+  }
+}
+
+// The formats of the characters that stand directly in each group of a tree.
+std::vector<std::vector<FormatId>> Writer::DirectFormats(const Tree& tree) const {
+  struct Collector {
+    const Writer& writer;
+    const Tree& tree;
+    std::vector<std::vector<FormatId>> formats;
+    void Open(std::size_t) {}
+    void Close(std::size_t) {}
+    void Character(std::size_t character, std::size_t group) {
+      std::vector<FormatId>& direct = formats[group - tree.first];
+      const FormatId id = writer.formatIds_[character];
+      if (direct.empty() || direct.back() != id) direct.push_back(id);
+    }
+  };
+  Collector collector{*this, tree, std::vector<std::vector<FormatId>>(tree.end - tree.first)};
+  Walk(tree, collector);
+  return std::move(collector.formats);
+}
+
+// Writes the groups of a tree anew. A group stays where its words still change something and a
+// character directly in it wants them; else its braces and words go, and what stood in it is
+// written against what is in force outside.
+void Writer::EmitTree(const Tree& tree) {
+  struct Emitter {
+    Writer& writer;
+    const Tree& tree;
+    std::vector<std::vector<FormatId>> direct;
+    std::vector<Attributes> inForce;
+    std::vector<bool> kept;
+
+    void Open(std::size_t index) {
+      const MarkGroup& group = writer.source_.groups[index];
+      const Attributes outside = inForce.back();
+      const Attributes inside = Changed(outside, group.words);
+      const std::vector<FormatId>& formats = direct[index - tree.first];
+      const bool keep = inside != outside &&
+                        std::any_of(formats.begin(), formats.end(), [&](FormatId id) {
+                          return writer.targets_[id] == inside;
+                        });
+      writer.CloseWrap();
+      writer.out_.CopyTo(group.open);
+      if (keep) {
+        writer.out_.CopyTo(group.content);
+      } else {
+        writer.out_.SkipTo(group.content);
+      }
+      kept.push_back(keep);
+      inForce.push_back(keep ? inside : outside);
+    }
+    void Character(std::size_t character, std::size_t) {
+      writer.Emit(character, inForce.back());
+    }
+    void Close(std::size_t index) {
+      const Offset brace = writer.source_.groups[index].close;
+      writer.CloseWrap();
+      writer.out_.CopyTo(brace);
+      if (kept.back()) {
+        writer.out_.CopyTo(brace + 1);
+      } else {
+        writer.out_.SkipTo(brace + 1);
+      }
+      kept.pop_back();
+      inForce.pop_back();
+    }
+  };
+  const Attributes outside = source_.groups[tree.first].outside;
+  Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}};
+  Walk(tree, emitter);
+}
+
+void Writer::Emit(std::size_t character, const Attributes& inForce) {
+  const Origin& origin = origins_[character];
+  const Attributes& target = Target(character);
+  const bool rightToLeft = document_.Formats()[formatIds_[character]].look.rightToLeft;
+  const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
+                      wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kOpen &&
+                      out_.OnlyLineEndsUpTo(origin.begin);
+  if (!goesOn) CloseWrap();
+  out_.CopyTo(origin.begin);
+  if (target == inForce || goesOn) {
+    EmitBytes(character);
+  } else if (origin.kind == Origin::kOpen) {
+    out_.Append(Words(inForce, target, rightToLeft));
+    EmitBytes(character);
+    out_.Append(Words(target, inForce, rightToLeft));
+  } else {
+    OpenWrap(character, inForce);
+    EmitBytes(character);
+  }
+}
+
+void Writer::EmitBytes(std::size_t character) {
+  const Origin& origin = origins_[character];
+  if (!origin.IsTyped()) {
+    out_.CopyTo(origin.end());
+    return;
+  }
+  const CharacterLook& look = document_.Formats()[formatIds_[character]].look;
+  std::string bytes;
+  AppendCharacter(bytes, document_.Text()[character], look.fallback,
+                  document_.Fonts()[look.font].symbol);
+  out_.Append(bytes);
+}
+
+std::string Writer::Words(const Attributes& from, const Attributes& to, bool rightToLeft) {
+  std::string words;
+  if (from.colour != to.colour) words += "\\cf" + std::to_string(colours_.NumberOf(to.colour));
+  if (from.bold != to.bold) {
+    words += to.bold ? "\\b" : "\\b0";
+    // Other programs take the weight of a right-to-left run from here.
+    if (rightToLeft) words += to.bold ? "\\ab" : "\\ab0";
+  }
+  if (from.underline != to.underline) words += to.underline ? "\\ul" : "\\ulnone";
+  if (from.offset != to.offset) {
+    words += to.offset < 0 ? "\\dn" : "\\up";
+    words += std::to_string(std::abs(to.offset) / kTwipsInHalfPoint);
+  }
+  if (!words.empty()) words += ' ';
+  return words;
+}
+
+void Writer::OpenWrap(std::size_t character, const Attributes& inForce) {
+  wrap_ = {true, inForce, Target(character),
+           document_.Formats()[formatIds_[character]].look.rightToLeft};
+  out_.Append("{" + Words(inForce, wrap_.target, wrap_.rightToLeft));
+}
+
+void Writer::CloseWrap() {
+  if (!wrap_.open) return;
+  wrap_.open = false;
+  out_.Append("}");
+}
+
+}  // namespace
+
+std::string Write(const Document& document) { return Writer(document).Write(); }
+
+}  // namespace quill::rtf

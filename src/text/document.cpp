@@ -1,0 +1,203 @@
+#include "text/document.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+#include <utility>
+
+#include "text/unicode.h"
+
+namespace quill {
+namespace {
+
+constexpr FormatId kUnknown = std::numeric_limits<FormatId>::max();
+
+// The first place from which the numbers differ from `number`. The blocks let the compiler compare
+// many numbers at once.
+std::size_t EndOfStretch(const std::vector<FormatId>& ids, std::size_t from, std::size_t to,
+                         FormatId number) {
+  constexpr std::size_t kBlock = 32;
+  while (to - from >= kBlock) {
+    FormatId differs = 0;
+    for (std::size_t i = 0; i < kBlock; ++i) differs |= ids[from + i] ^ number;
+    if (differs != 0) break;
+    from += kBlock;
+  }
+  while (from < to && ids[from] == number) ++from;
+  return from;
+}
+
+template <class Wanted>
+Position FindFormat(const std::vector<FormatId>& ids, Range range, Wanted wanted) {
+  const auto end = static_cast<std::size_t>(range.end);
+  for (auto at = static_cast<std::size_t>(range.begin); at < end;) {
+    if (wanted(ids[at])) return static_cast<Position>(at);
+    at = EndOfStretch(ids, at, end, ids[at]);
+  }
+  return range.end;
+}
+
+bool EndsCell(const Origin& origin) { return origin.kind == Origin::kCellEnd; }
+bool EndsRow(const Origin& origin) { return origin.kind == Origin::kRowEnd; }
+
+template <class T>
+void Splice(std::vector<T>& into, Range range, const std::vector<T>& items) {
+  const auto first = into.begin() + range.begin;
+  const std::size_t common = std::min(items.size(), static_cast<std::size_t>(range.Length()));
+  const auto copied = std::copy_n(items.begin(), common, first);
+  if (items.size() > common) {
+    into.insert(copied, items.begin() + static_cast<std::ptrdiff_t>(common), items.end());
+  } else {
+    into.erase(copied, into.begin() + range.end);
+  }
+}
+
+}  // namespace
+
+Document::Document() = default;
+
+Document::Document(Source source, std::vector<FontFace> fonts, FormatTable formats,
+                   std::u32string text, std::vector<FormatId> formatIds,
+                   std::vector<Origin> origins, FormatId endFormat)
+    : source_(std::move(source)),
+      fonts_(std::move(fonts)),
+      formats_(std::move(formats)),
+      text_(std::move(text)),
+      formatIds_(std::move(formatIds)),
+      origins_(std::move(origins)),
+      endFormat_(endFormat) {}
+
+Position Document::FindColour(Range range, Colour colour) const {
+  return FindFormat(formatIds_, range,
+                    [&](FormatId id) { return formats_[id].now.colour == colour; });
+}
+
+Position Document::FindOtherColour(Range range, Colour colour) const {
+  return FindFormat(formatIds_, range,
+                    [&](FormatId id) { return formats_[id].now.colour != colour; });
+}
+
+std::vector<Range> Document::Apply(Range range, const AttributeChange& change) {
+  std::vector<Range> changed;
+  // The new number of every format met so far.
+  std::vector<FormatId> renamed(formats_.Size(), kUnknown);
+  const std::size_t end = Index(range.end);
+  for (std::size_t at = Index(range.begin); at < end;) {
+    const FormatId old = formatIds_[at];
+    const std::size_t stop = EndOfStretch(formatIds_, at, end, old);
+    if (renamed[old] == kUnknown) {
+      Format format = formats_[old];
+      format.now = Changed(format.now, change);
+      renamed[old] = formats_.Add(format);
+    }
+    if (renamed[old] != old) {
+      std::fill(formatIds_.begin() + static_cast<std::ptrdiff_t>(at),
+                formatIds_.begin() + static_cast<std::ptrdiff_t>(stop), renamed[old]);
+      const Range here{static_cast<Position>(at), static_cast<Position>(stop)};
+      if (!changed.empty() && changed.back().end == here.begin) {
+        changed.back().end = here.end;
+      } else {
+        changed.push_back(here);
+      }
+    }
+    at = stop;
+  }
+  return changed;
+}
+
+Document::Place Document::PlaceFor(Range range) const {
+  if (range.Length() > 0) {
+    return {origins_[Index(range.begin)].begin, formatIds_[Index(range.begin)]};
+  }
+  const Position at = range.begin;
+  if (Length() == 0) return {source_.bodyEnd, endFormat_};
+  // Behind a paragraph's or a cell's end stand the words that set up what follows: typed text goes
+  // behind them, in front of the next character.
+  const bool opens = at == 0 || text_[Index(at - 1)] == kParagraphEnd ||
+                     EndsCell(origins_[Index(at - 1)]);
+  if (opens && at < Length()) return {origins_[Index(at)].begin, formatIds_[Index(at)]};
+  return {origins_[Index(at - 1)].end(), formatIds_[Index(at - 1)]};
+}
+
+std::vector<Cell> Document::Type(Range range, std::u32string_view text,
+                                 const Attributes& attributes) {
+  const Place place = PlaceFor(range);
+  Format format = formats_[place.format];
+  format.now = attributes;
+  const FormatId id = formats_.Add(format);
+  std::vector<Cell> cells;
+  cells.reserve(text.size());
+  for (const char32_t c : text) cells.push_back({c, id, {place.offset}});
+  return Exchange(range, cells);
+}
+
+std::vector<Cell> Document::Exchange(Range range, const std::vector<Cell>& cells) {
+  std::vector<Cell> gone;
+  gone.reserve(Index(range.Length()));
+  for (std::size_t i = Index(range.begin); i < Index(range.end); ++i) {
+    gone.push_back({text_[i], formatIds_[i], origins_[i]});
+    if (!origins_[i].IsTyped()) cuts_[origins_[i].begin] = origins_[i].end();
+  }
+  std::u32string characters;
+  std::vector<FormatId> ids;
+  std::vector<Origin> origins;
+  for (const Cell& cell : cells) {
+    characters += cell.character;
+    ids.push_back(cell.format);
+    origins.push_back(cell.origin);
+    if (!cell.origin.IsTyped()) cuts_.erase(cell.origin.begin);
+  }
+  text_.replace(Index(range.begin), Index(range.Length()), characters);
+  Splice(formatIds_, range, ids);
+  Splice(origins_, range, origins);
+  return gone;
+}
+
+Position Document::RowBegin(Position rowEnd) const {
+  Position at = rowEnd;
+  while (at > 0) {
+    const Origin& before = origins_[Index(at - 1)];
+    if (EndsRow(before)) break;
+    const bool paragraphEnd = text_[Index(at - 1)] == kParagraphEnd;
+    if (paragraphEnd && !FormatAt(at - 1).paragraph.inTable) break;
+    --at;
+  }
+  return at;
+}
+
+bool Document::CanDelete(Range range) const {
+  // Rows are taken from the back: whatever cell ends lie outside a whole row may not go.
+  Position at = range.end;
+  while (at > range.begin) {
+    const Origin& origin = origins_[Index(at - 1)];
+    if (EndsCell(origin)) return false;
+    if (EndsRow(origin)) {
+      const Position begin = RowBegin(at - 1);
+      if (begin < range.begin) return false;
+      at = begin;
+    } else {
+      --at;
+    }
+  }
+  return true;
+}
+
+void Document::Check() const {
+  if (formatIds_.size() != text_.size() || origins_.size() != text_.size()) {
+    throw std::logic_error("the arrays of the text differ in length");
+  }
+  Offset reached = 0;
+  for (const Origin& origin : origins_) {
+    if (origin.begin < reached) throw std::logic_error("characters stand in another order");
+    reached = origin.end();
+    if (!origin.IsTyped() && cuts_.contains(origin.begin)) {
+      throw std::logic_error("a character of the text counts as deleted");
+    }
+  }
+  if (reached > source_.bytes.size()) throw std::logic_error("a character beyond the source");
+  for (const FormatId id : formatIds_) {
+    if (id >= formats_.Size()) throw std::logic_error("a format that is not in the table");
+  }
+}
+
+}  // namespace quill

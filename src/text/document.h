@@ -1,0 +1,111 @@
+// The text: its characters, their formats, and what the file said besides.
+//
+// Three arrays run side by side: the characters, the number of each one's format, and the bytes
+// that each was read from. Formatting a span is a pass over the formats; an edit moves the tails
+// of the arrays. Positions count characters (code points) from 0; a range is half-open. Ranges
+// must lie inside the text: clamping is the business of the text surface.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/format.h"
+#include "text/source.h"
+
+namespace quill {
+
+using Position = std::int64_t;
+
+struct Range {
+  Position begin = 0;
+  Position end = 0;
+
+  Position Length() const { return end - begin; }
+  bool operator==(const Range&) const = default;
+};
+
+// A typeface that the file names. Symbol fonts have characters of their own at U+F020 to U+F0FF.
+struct FontFace {
+  std::string name;  // UTF-8
+  bool symbol = false;
+
+  bool operator==(const FontFace&) const = default;
+};
+
+// One character with all that belongs to it.
+struct Cell {
+  char32_t character = 0;
+  FormatId format = 0;
+  Origin origin;
+
+  bool operator==(const Cell&) const = default;
+};
+
+class Document {
+ public:
+  // An empty text without a source; rtf/ makes the documents that can be saved.
+  Document();
+  Document(Source source, std::vector<FontFace> fonts, FormatTable formats,
+           std::u32string text, std::vector<FormatId> formatIds, std::vector<Origin> origins,
+           FormatId endFormat);
+
+  Position Length() const { return static_cast<Position>(text_.size()); }
+  const std::u32string& Text() const { return text_; }
+  const std::vector<FormatId>& FormatIds() const { return formatIds_; }
+  const std::vector<Origin>& Origins() const { return origins_; }
+  const FormatTable& Formats() const { return formats_; }
+  const std::vector<FontFace>& Fonts() const { return fonts_; }
+  const Source& GetSource() const { return source_; }
+  // Bytes of deleted characters, by their begin: the end of each stretch.
+  const std::map<Offset, Offset>& Cuts() const { return cuts_; }
+
+  const Format& FormatAt(Position at) const { return formats_[formatIds_[Index(at)]]; }
+  const Attributes& At(Position at) const { return FormatAt(at).now; }
+
+  // The first position in the range whose character has that colour (or, for the second, lacks
+  // it); the range's end where there is none.
+  Position FindColour(Range range, Colour colour) const;
+  Position FindOtherColour(Range range, Colour colour) const;
+
+  // Sets attributes and returns the ranges that really changed, in order, never touching.
+  std::vector<Range> Apply(Range range, const AttributeChange& change);
+
+  // Puts typed text in place of a range (either may be empty). The new characters take the given
+  // attributes; the rest of their look is that of the first character replaced, or else of the
+  // neighbour beside which they stand. Returns the characters that are gone.
+  std::vector<Cell> Type(Range range, std::u32string_view text, const Attributes& attributes);
+
+  // Puts characters back that Type returned, in place of a range, and returns what stood there.
+  std::vector<Cell> Exchange(Range range, const std::vector<Cell>& cells);
+
+  // Whether the range may be deleted: the end of a table's cell or row goes only with its whole
+  // row.
+  bool CanDelete(Range range) const;
+
+  // Throws a sentence where an invariant does not hold. For tests.
+  void Check() const;
+
+ private:
+  static std::size_t Index(Position at) { return static_cast<std::size_t>(at); }
+  struct Place {
+    Offset offset;
+    FormatId format;  // of the character whose look typed text takes
+  };
+  Place PlaceFor(Range range) const;
+  Position RowBegin(Position rowEnd) const;
+
+  Source source_;
+  std::vector<FontFace> fonts_;
+  FormatTable formats_;
+  std::u32string text_;
+  std::vector<FormatId> formatIds_;
+  std::vector<Origin> origins_;
+  std::map<Offset, Offset> cuts_;
+  FormatId endFormat_ = 0;  // of what stands behind the last character
+};
+
+}  // namespace quill
