@@ -1,0 +1,160 @@
+#include "program/program.h"
+
+#include "program/attach.h"
+#include "workbench/failure.h"
+
+namespace quill {
+namespace {
+
+// The editable text of a box; nullptr for other controls.
+Property<std::u32string>* EditLine(Control& control) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) return &box->Text;
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) return &combo->Text;
+  return nullptr;
+}
+
+bool IsEnter(char32_t key) { return key == U'\r' || key == U'\n'; }
+
+}  // namespace
+
+Program::Program(Dialogs& dialogs, Disk& disk) : form_(dialogs, disk) { AttachHandlers(form_); }
+
+template <class Action>
+void Program::Run(Action&& action) {
+  if (ended_) return;
+  try {
+    // A failure that no handler's regime took ends that handler; what it queued is delivered.
+    CarryOn(action);
+    Deliver();
+  } catch (const ProgramEnd&) {
+    ended_ = true;
+  }
+}
+
+void Program::Deliver() {
+  for (;;) {
+    const std::vector<Handler> focusEvents = form_.TakeFocusEvents();
+    const std::u32string keys = focusEvents.empty() ? form_.TakeKeys() : std::u32string();
+    if (focusEvents.empty() && keys.empty()) return;
+    for (const Handler handler : focusEvents) CarryOn([&] { handler(form_); });
+    CarryOn([&] { DeliverKeys(keys); });
+  }
+}
+
+void Program::DeliverKeys(std::u32string_view keys) {
+  Control* const target = form_.Focus();
+  if (target == nullptr || keys.empty()) return;
+  if (target == &form_.RichTextBox1) {
+    // They arrive together and are one edit.
+    if (target->IsInReach()) form_.RichTextBox1.TypeOver(keys);
+    return;
+  }
+  for (const char32_t key : keys) Key(*target, key, false);
+}
+
+void Program::Click(CommandButton& button) {
+  if (!button.IsInReach()) return;
+  Run([&] {
+    form_.MoveFocus(button);
+    if (button.Click != nullptr) button.Click(form_);
+  });
+}
+
+void Program::Click(MenuItem& item) {
+  if (!item.IsInReach()) return;
+  Run([&] {
+    if (item.Click != nullptr) item.Click(form_);
+  });
+}
+
+void Program::ClickItem(ListBox& list, int item) {
+  if (!list.IsInReach()) return;
+  Run([&] {
+    form_.MoveFocus(list);
+    list.ClickItem(item);
+  });
+}
+
+void Program::Pick(ComboBox& combo, int row) {
+  if (!combo.IsInReach()) return;
+  Run([&] {
+    form_.MoveFocus(combo);
+    combo.Pick(row);
+  });
+}
+
+void Program::GoInto(Control& control) {
+  if (!control.IsInReach()) return;
+  Run([&] {
+    const bool moved = form_.MoveFocus(control);
+    const auto* box = dynamic_cast<const TextBox*>(&control);
+    if (moved && box != nullptr && box->GotFocus != nullptr) box->GotFocus(form_);
+  });
+}
+
+void Program::Type(Control& control, std::u32string_view text) {
+  GoInto(control);
+  for (const char32_t key : text) Run([&] { Key(control, key, false); });
+}
+
+void Program::Enter(Control& control, std::u32string_view text) {
+  GoInto(control);
+  if (text.empty()) {
+    Edit(control, U"");
+    return;
+  }
+  bool overAll = true;
+  for (const char32_t key : text) {
+    Run([&] { Key(control, key, overAll); });
+    overAll = false;
+  }
+}
+
+void Program::Edit(Control& box, std::u32string_view text) {
+  Property<std::u32string>* const line = EditLine(box);
+  if (line == nullptr || !box.IsInReach()) return;
+  Run([&] { *line = std::u32string(text); });
+}
+
+void Program::Select(Position start, Position length) {
+  GoInto(form_.RichTextBox1);
+  Run([&] { form_.RichTextBox1.UserSelects(start, length); });
+}
+
+void Program::Close() {
+  Run([&] { form_.End(); });
+}
+
+void Program::DeleteInText(Range range) {
+  Run([&] { form_.RichTextBox1.UserDeletes(range); });
+}
+
+void Program::TypeInText(std::u32string_view text) {
+  Run([&] { form_.RichTextBox1.TypeOver(text); });
+}
+
+void Program::UndoInText() {
+  Run([&] { form_.RichTextBox1.Undo(); });
+}
+
+void Program::RedoInText() {
+  Run([&] { form_.RichTextBox1.Redo(); });
+}
+
+void Program::Key(Control& control, char32_t key, bool overAll) {
+  if (!control.IsInReach()) return;
+  if (&control == &form_.RichTextBox1) {
+    form_.RichTextBox1.TypeOver(std::u32string_view(&key, 1));
+    return;
+  }
+  Property<std::u32string>* const line = EditLine(control);
+  if (line == nullptr) return;
+  if (IsEnter(key)) {
+    // The Enter key means a line end in a box of several lines and nothing in one of one line.
+    if (!control.Row().stored.multiLine) return;
+    key = U'\n';
+  }
+  *line = overAll ? std::u32string(1, key) : line->Get() + key;
+}
+
+}  // namespace quill

@@ -1,0 +1,66 @@
+// Members of controls that are written and read like variables.
+#pragma once
+
+#include <utility>
+
+#include "workbench/watcher.h"
+
+namespace quill {
+
+// A stored property. Writing a value other than the present one tells its control, which raises
+// what has to be raised before the write returns.
+template <class T>
+class Property {
+ public:
+  Property(Control& owner, PropertyId id, T value)
+      : owner_(owner), id_(id), value_(std::move(value)) {}
+  Property(const Property&) = delete;
+  ~Property() = default;
+
+  Property& operator=(T value);
+  Property& operator=(const Property& other) { return *this = other.value_; }
+
+  const T& Get() const { return value_; }
+  operator const T&() const { return value_; }
+
+ private:
+  Control& owner_;
+  PropertyId id_;
+  T value_;
+};
+
+template <class T, class U>
+bool operator==(const Property<T>& property, const U& value) {
+  return property.Get() == value;
+}
+template <class T>
+bool operator==(const Property<T>& left, const Property<T>& right) {
+  return left.Get() == right.Get();
+}
+
+template <class Owner, class T>
+T ResultOf(T (Owner::*)() const);
+
+// A property that the owner works out: reading and writing call members of it.
+template <class Owner, auto Read, auto Write>
+class Accessor {
+ public:
+  using Value = decltype(ResultOf(Read));
+
+  explicit Accessor(Owner& owner) : owner_(owner) {}
+  Accessor(const Accessor&) = delete;
+  ~Accessor() = default;
+
+  template <class V>
+  Accessor& operator=(const V& value) {
+    (owner_.*Write)(value);
+    return *this;
+  }
+  Value Get() const { return (owner_.*Read)(); }
+  operator Value() const { return Get(); }
+
+ private:
+  Owner& owner_;
+};
+
+}  // namespace quill

@@ -1,0 +1,220 @@
+#include "workbench/text_surface.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "text/unicode.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// The one value of an attribute over a range, or nothing where it varies.
+template <class T>
+std::optional<T> Common(const Document& document, Range range, T Attributes::*attribute) {
+  const std::vector<FormatId>& ids = document.FormatIds();
+  const auto first = ids.begin() + range.begin;
+  const auto last = ids.begin() + range.end;
+  const T value = document.At(range.begin).*attribute;
+  for (auto id = first; id != last; ++id) {
+    if (*id != *first && document.Formats()[*id].now.*attribute != value) return std::nullopt;
+  }
+  return value;
+}
+
+template <class T>
+std::optional<T> SelectionValue(const TextSurface& surface, T Attributes::*attribute) {
+  if (surface.Selection().Length() == 0) return surface.TypingAttributes().*attribute;
+  return Common(surface.Doc(), surface.Selection(), attribute);
+}
+
+AttributeChange AllOf(const Attributes& attributes) {
+  return {attributes.colour, attributes.bold, attributes.underline, attributes.offset};
+}
+
+// What the keys of a text put into the document: the Enter key's carriage return ends a paragraph,
+// and NUL is no character.
+std::u32string Typed(std::u32string_view text) {
+  std::u32string typed;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char32_t c = text[i];
+    if (c == U'\r') {
+      if (i + 1 == text.size() || text[i + 1] != U'\n') typed += kParagraphEnd;
+    } else if (c != 0) {
+      typed += c;
+    }
+  }
+  return typed;
+}
+
+}  // namespace
+
+TextSurface::TextSurface(Form1& form, std::string_view name)
+    : Control(form, name), document_(rtf::Blank()) {}
+
+std::u32string TextSurface::SelText() const {
+  return Text().substr(static_cast<std::size_t>(selection_.begin),
+                       static_cast<std::size_t>(selection_.Length()));
+}
+
+void TextSurface::WriteSelStart(Position start) {
+  remembered_ = {};
+  const Position at = std::clamp<Position>(start, 0, Length());
+  Select({at, at});
+}
+
+void TextSurface::WriteSelLength(Position length) {
+  remembered_ = {};
+  const Position room = Length() - selection_.begin;
+  Select({selection_.begin, selection_.begin + std::clamp<Position>(length, 0, room)});
+}
+
+void TextSurface::SelectSpan(double start, double end) {
+  // Beyond this no text reaches, and a cast from double is still exact.
+  constexpr double kFar = 1e15;
+  const double first = std::round(std::clamp(start, -kFar, kFar));
+  const double length = std::round(std::clamp(end - start, -kFar, kFar)) + 1;
+  SelStart = static_cast<Position>(first) - 1;
+  SelLength = first < 1 ? 0 : static_cast<Position>(length);
+}
+
+void TextSurface::Select(Range range) {
+  if (range == selection_) return;
+  selection_ = range;
+  Form().TheWatcher().SelectionChanged();
+}
+
+std::optional<Colour> TextSurface::ReadSelColor() const {
+  return SelectionValue(*this, &Attributes::colour);
+}
+std::optional<bool> TextSurface::ReadSelBold() const {
+  return SelectionValue(*this, &Attributes::bold);
+}
+std::optional<bool> TextSurface::ReadSelUnderline() const {
+  return SelectionValue(*this, &Attributes::underline);
+}
+std::optional<Twips> TextSurface::ReadSelCharOffset() const {
+  return SelectionValue(*this, &Attributes::offset);
+}
+
+void TextSurface::WriteSelColor(Colour colour) { Write({.colour = colour}); }
+void TextSurface::WriteSelBold(bool bold) { Write({.bold = bold}); }
+void TextSurface::WriteSelUnderline(bool underline) { Write({.underline = underline}); }
+void TextSurface::WriteSelCharOffset(Twips offset) { Write({.offset = offset}); }
+
+void TextSurface::Write(const AttributeChange& change) {
+  if (selection_.Length() == 0) {
+    Merge(remembered_, change);
+  } else {
+    Apply(selection_, change);
+  }
+}
+
+void TextSurface::Apply(Range range, const AttributeChange& change) {
+  for (const Range& changed : document_.Apply(range, change)) {
+    Form().TheWatcher().FormatChanged(changed);
+  }
+}
+
+Attributes TextSurface::TypingAttributes() const {
+  if (selection_.Length() > 0) return document_.At(selection_.begin);
+  if (Length() == 0) return Changed({}, remembered_);
+  return Changed(document_.At(std::max<Position>(selection_.begin - 1, 0)), remembered_);
+}
+
+Position TextSurface::FindColour(Position from, Colour colour) const {
+  return document_.FindColour({std::min(from, Length()), Length()}, colour);
+}
+
+Position TextSurface::FindOtherColour(Position from, Colour colour) const {
+  return document_.FindOtherColour({std::min(from, Length()), Length()}, colour);
+}
+
+void TextSurface::LoadFile(const std::u32string& path) {
+  std::optional<Document> read = rtf::Read(Form().TheDisk().Read(EncodePath(path)));
+  if (!read) throw StatementFailed("the file is no text: " + EncodePath(path));
+  SetDocument(std::move(*read));
+  filePath_ = path;
+}
+
+void TextSurface::SaveFile(const std::u32string& path) {
+  Form().TheDisk().Replace(EncodePath(path), rtf::Write(document_));
+  filePath_ = path;
+}
+
+void TextSurface::SetDocument(Document document) {
+  document_ = std::move(document);
+  history_.Clear();
+  remembered_ = {};
+  selection_ = {};
+  Form().TheWatcher().TextLoaded();
+}
+
+void TextSurface::UserSelects(Position start, Position length) {
+  SelStart = start;
+  SelLength = length;
+}
+
+void TextSurface::TypeOver(std::u32string_view text) {
+  const std::u32string typed = Typed(text);
+  if (typed.empty()) return;
+  const Attributes attributes = TypingAttributes();
+  const Range over = selection_;
+  const std::u32string_view old =
+      std::u32string_view(Text()).substr(static_cast<std::size_t>(over.begin),
+                                         static_cast<std::size_t>(over.Length()));
+  const std::size_t most = std::min(old.size(), typed.size());
+  std::size_t head = 0;
+  while (head < most && old[head] == typed[head]) ++head;
+  std::size_t tail = 0;
+  while (tail < most - head && old[old.size() - 1 - tail] == typed[typed.size() - 1 - tail]) ++tail;
+  const Range middle{over.begin + static_cast<Position>(head),
+                     over.end - static_cast<Position>(tail)};
+  if (!document_.CanDelete(middle)) return;
+
+  const std::u32string_view put =
+      std::u32string_view(typed).substr(head, typed.size() - head - tail);
+  if (middle.Length() > 0 || !put.empty()) {
+    Edit edit{middle.begin, static_cast<Position>(put.size()), {}};
+    edit.cells = document_.Type(middle, put, attributes);
+    Form().TheWatcher().TextReplaced(middle.begin, middle.Length(), edit.inserted);
+    history_.Add(std::move(edit));
+  }
+  const Position caret = over.begin + static_cast<Position>(typed.size());
+  Apply({over.begin, caret}, AllOf(attributes));
+  remembered_ = {};
+  Select({caret, caret});
+}
+
+void TextSurface::UserDeletes(Range range) {
+  if (range.Length() == 0 || !document_.CanDelete(range)) return;
+  Edit edit{range.begin, 0, document_.Type(range, {}, {})};
+  Form().TheWatcher().TextReplaced(range.begin, range.Length(), 0);
+  history_.Add(std::move(edit));
+  remembered_ = {};
+  Select({range.begin, range.begin});
+}
+
+void TextSurface::Undo() {
+  if (CanUndo()) Step(false);
+}
+
+void TextSurface::Redo() {
+  if (CanRedo()) Step(true);
+}
+
+void TextSurface::Step(bool forward) {
+  Edit& edit = forward ? history_.StepForward() : history_.StepBack();
+  const Range range{edit.at, edit.at + edit.inserted};
+  std::vector<Cell> gone = document_.Exchange(range, edit.cells);
+  edit.inserted = static_cast<Position>(edit.cells.size());
+  edit.cells = std::move(gone);
+  Form().TheWatcher().TextReplaced(edit.at, range.Length(), edit.inserted);
+  remembered_ = {};
+  Select({edit.at + edit.inserted, edit.at + edit.inserted});
+}
+
+}  // namespace quill

@@ -1,0 +1,107 @@
+// The text control: the text, its attributes, and the one selection.
+//
+// Positions count characters from 0. Writes of the selection are clamped to the text. Attributes
+// written to an empty selection are remembered for what is typed next at that place; a write of
+// SelStart or SelLength, also of the value that it has, or a selection by the user forgets them.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "text/document.h"
+#include "workbench/control.h"
+#include "workbench/edit_history.h"
+
+namespace quill {
+
+class TextSurface : public Control {
+  Position ReadSelStart() const { return selection_.begin; }
+  void WriteSelStart(Position start);
+  Position ReadSelLength() const { return selection_.Length(); }
+  void WriteSelLength(Position length);
+  std::optional<Colour> ReadSelColor() const;
+  void WriteSelColor(Colour colour);
+  std::optional<Twips> ReadSelCharOffset() const;
+  void WriteSelCharOffset(Twips offset);
+  std::optional<bool> ReadSelBold() const;
+  void WriteSelBold(bool bold);
+  std::optional<bool> ReadSelUnderline() const;
+  void WriteSelUnderline(bool underline);
+
+ public:
+  TextSurface(Form1& form, std::string_view name);
+
+  const std::u32string& Text() const { return document_.Text(); }
+  Position Length() const { return document_.Length(); }
+  std::u32string SelText() const;
+
+  // Writing SelStart empties the selection. Beyond the text's end it is the end; below 0 it is 0.
+  Accessor<TextSurface, &TextSurface::ReadSelStart, &TextSurface::WriteSelStart> SelStart{*this};
+  // Beyond the text's end it is what remains; below 0 it is 0.
+  Accessor<TextSurface, &TextSurface::ReadSelLength, &TextSurface::WriteSelLength> SelLength{
+      *this};
+  // Reading an attribute gives nothing where the selection mixes its values.
+  Accessor<TextSurface, &TextSurface::ReadSelColor, &TextSurface::WriteSelColor> SelColor{*this};
+  // In twips.
+  Accessor<TextSurface, &TextSurface::ReadSelCharOffset, &TextSurface::WriteSelCharOffset>
+      SelCharOffset{*this};
+  Accessor<TextSurface, &TextSurface::ReadSelBold, &TextSurface::WriteSelBold> SelBold{*this};
+  Accessor<TextSurface, &TextSurface::ReadSelUnderline, &TextSurface::WriteSelUnderline>
+      SelUnderline{*this};
+
+  // Selects the span of a tag, told by its first and last character, 1-based. A span that begins
+  // before the text selects nothing, with the caret at 0; one that ends before its start is empty;
+  // fractions are rounded to the nearest whole number.
+  void SelectSpan(double start, double end);
+
+  // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, where
+  // the file cannot be read or is no text.
+  void LoadFile(const std::u32string& path);
+  // Writes the text as rich text. Fails where the file cannot be written.
+  void SaveFile(const std::u32string& path);
+  // The path last loaded from or saved to; empty before.
+  const std::u32string& FilePath() const { return filePath_; }
+  void Refresh() {}
+
+  // The first position in [from, text's end) of a character that has, or lacks, a colour; the
+  // text's length where there is none.
+  Position FindColour(Position from, Colour colour) const;
+  Position FindOtherColour(Position from, Colour colour) const;
+
+  // What a user's keys do. Each leaves the caret behind what it typed, and does nothing where the
+  // table would lose the end of a cell or row without its whole row.
+
+  // Selects with mouse or keys; both ends are clamped.
+  void UserSelects(Position start, Position length);
+  // Types over the selection as one edit. Characters typed again where they stood (the common
+  // beginning and end) stay the characters they were and take only the attributes.
+  void TypeOver(std::u32string_view text);
+  // Deletes a range as one edit.
+  void UserDeletes(Range range);
+  bool CanUndo() const { return history_.CanUndo(); }
+  bool CanRedo() const { return history_.CanRedo(); }
+  void Undo();
+  void Redo();
+
+  // The attributes that a character typed now would take.
+  Attributes TypingAttributes() const;
+  Range Selection() const { return selection_; }
+  const Document& Doc() const { return document_; }
+  // Puts a text in place without a file; for tests and benchmarks.
+  void SetDocument(Document document);
+
+ private:
+  void Select(Range range);
+  void Write(const AttributeChange& change);
+  void Apply(Range range, const AttributeChange& change);
+  void Step(bool forward);
+
+  Document document_;
+  Range selection_;
+  AttributeChange remembered_;
+  EditHistory history_;
+  std::u32string filePath_;
+};
+
+}  // namespace quill
