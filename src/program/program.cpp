@@ -94,7 +94,9 @@ void Program::GoInto(Control& control) {
 
 void Program::Type(Control& control, std::u32string_view text) {
   GoInto(control);
-  for (const char32_t key : text) Run([&] { Key(control, key, false); });
+  for (const char32_t key : text) {
+    Run([&] { Key(control, key, false); });
+  }
 }
 
 void Program::Enter(Control& control, std::u32string_view text) {
@@ -105,8 +107,7 @@ void Program::Enter(Control& control, std::u32string_view text) {
   }
   bool overAll = true;
   for (const char32_t key : text) {
-    Run([&] { Key(control, key, overAll); });
-    overAll = false;
+    Run([&] { overAll = !Key(control, key, overAll) && overAll; });
   }
 }
 
@@ -141,20 +142,22 @@ void Program::RedoInText() {
   Run([&] { form_.RichTextBox1.Redo(); });
 }
 
-void Program::Key(Control& control, char32_t key, bool overAll) {
-  if (!control.IsInReach()) return;
+// Returns whether the control took the key.
+bool Program::Key(Control& control, char32_t key, bool overAll) {
+  if (!control.IsInReach()) return false;
   if (&control == &form_.RichTextBox1) {
     form_.RichTextBox1.TypeOver(std::u32string_view(&key, 1));
-    return;
+    return true;
   }
   Property<std::u32string>* const line = EditLine(control);
-  if (line == nullptr) return;
+  if (line == nullptr) return false;
   if (IsEnter(key)) {
     // The Enter key means a line end in a box of several lines and nothing in one of one line.
-    if (!control.Row().stored.multiLine) return;
+    if (!control.Row().stored.multiLine) return false;
     key = U'\n';
   }
   *line = overAll ? std::u32string(1, key) : line->Get() + key;
+  return true;
 }
 
 }  // namespace quill

@@ -53,7 +53,7 @@ class Program {
   void Run(Action&& action);
   void Deliver();
   void DeliverKeys(std::u32string_view keys);
-  void Key(Control& control, char32_t key, bool overAll);
+  bool Key(Control& control, char32_t key, bool overAll);
 
   Form1 form_;
   bool ended_ = false;

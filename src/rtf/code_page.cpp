@@ -25,23 +25,40 @@ Converter Open(const std::string& name) {
 // the Windows page of the same script stands in.
 const char* SpecialName(int number) {
   switch (number) {
-    case 10000: return "macintosh";
-    case 10001: return "windows-932";
-    case 10002: return "windows-950";
-    case 10003: return "windows-949";
-    case 10004: return "windows-1256";
-    case 10005: return "windows-1255";
-    case 10006: return "x-mac-greek";
-    case 10007: return "x-mac-cyrillic";
-    case 10008: return "windows-936";
-    case 10021: return "windows-874";
-    case 10029: return "x-mac-centraleurroman";
-    case 10081: return "x-mac-turkish";
-    case 1361: return "windows-949";
-    case 20866: return "KOI8-R";
-    case 21866: return "KOI8-U";
-    case 20127: return "windows-1252";
-    default: return nullptr;
+    case 10000:
+      return "macintosh";
+    case 10001:
+      return "windows-932";
+    case 10002:
+      return "windows-950";
+    case 10003:
+      return "windows-949";
+    case 10004:
+      return "windows-1256";
+    case 10005:
+      return "windows-1255";
+    case 10006:
+      return "x-mac-greek";
+    case 10007:
+      return "x-mac-cyrillic";
+    case 10008:
+      return "windows-936";
+    case 10021:
+      return "windows-874";
+    case 10029:
+      return "x-mac-centraleurroman";
+    case 10081:
+      return "x-mac-turkish";
+    case 1361:
+      return "windows-949";
+    case 20866:
+      return "KOI8-R";
+    case 21866:
+      return "KOI8-U";
+    case 20127:
+      return "windows-1252";
+    default:
+      return nullptr;
   }
 }
 
@@ -140,37 +157,68 @@ char32_t CodePage::Sequence(const std::string& bytes) const {
 
 int CodePageOfCharset(int charset) {
   switch (charset) {
-    case 0: return 1252;
-    case 2: return CodePage::kSymbol;
-    case 77: return 10000;
-    case 78: return 10001;
-    case 79: return 10003;
-    case 80: return 10008;
-    case 81: return 10002;
-    case 83: return 10005;
-    case 84: return 10004;
-    case 85: return 10006;
-    case 86: return 10081;
-    case 87: return 10021;
-    case 88: return 10029;
-    case 89: return 10007;
-    case 128: return 932;
-    case 129: return 949;
-    case 130: return 1361;
-    case 134: return 936;
-    case 136: return 950;
-    case 161: return 1253;
-    case 162: return 1254;
-    case 163: return 1258;
-    case 177: return 1255;
-    case 178: return 1256;
-    case 186: return 1257;
-    case 204: return 1251;
-    case 222: return 874;
-    case 238: return 1250;
-    case 254: return 437;
-    case 255: return 850;
-    default: return 0;
+    case 0:
+      return 1252;
+    case 2:
+      return CodePage::kSymbol;
+    case 77:
+      return 10000;
+    case 78:
+      return 10001;
+    case 79:
+      return 10003;
+    case 80:
+      return 10008;
+    case 81:
+      return 10002;
+    case 83:
+      return 10005;
+    case 84:
+      return 10004;
+    case 85:
+      return 10006;
+    case 86:
+      return 10081;
+    case 87:
+      return 10021;
+    case 88:
+      return 10029;
+    case 89:
+      return 10007;
+    case 128:
+      return 932;
+    case 129:
+      return 949;
+    case 130:
+      return 1361;
+    case 134:
+      return 936;
+    case 136:
+      return 950;
+    case 161:
+      return 1253;
+    case 162:
+      return 1254;
+    case 163:
+      return 1258;
+    case 177:
+      return 1255;
+    case 178:
+      return 1256;
+    case 186:
+      return 1257;
+    case 204:
+      return 1251;
+    case 222:
+      return 874;
+    case 238:
+      return 1250;
+    case 254:
+      return 437;
+    case 255:
+      return 850;
+    default:
+      return 0;
   }
 }
 

@@ -20,8 +20,7 @@ void AppendUnicode(std::string& to, char32_t c, std::uint32_t fallback) {
 
 }  // namespace
 
-void AppendCharacter(std::string& to, char32_t character, std::uint32_t fallback,
-                     bool symbolFont) {
+void AppendCharacter(std::string& to, char32_t character, std::uint32_t fallback, bool symbolFont) {
   const bool isCharacter = character < 0xD800 || (character > 0xDFFF && character <= 0x10FFFF);
   const char32_t c = isCharacter ? character : kReplacement;
   if (c == kParagraphEnd) {

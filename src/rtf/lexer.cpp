@@ -22,7 +22,8 @@ int HexValue(char c) {
 constexpr std::array<bool, 256> MakeLiteral() {
   std::array<bool, 256> literal{};
   literal.fill(true);
-  for (const char c : {'{', '}', '\\', '\r', '\n', '\0'}) literal[static_cast<unsigned char>(c)] = false;
+  for (const char c : {'{', '}', '\\', '\r', '\n', '\0'})
+    literal[static_cast<unsigned char>(c)] = false;
   return literal;
 }
 constexpr std::array<bool, 256> kLiteral = MakeLiteral();
@@ -52,10 +53,13 @@ Token Lexer::Next() {
 }
 
 void Lexer::Text(Token& token) {
-  token.kind = IsIgnored(Here()) ? Token::kIgnored : Token::kText;
-  const auto goesOn = token.kind == Token::kIgnored ? IsIgnored : IsLiteral;
-  const auto* const end = std::find_if_not(bytes_.begin() + at_, bytes_.end(), goesOn);
-  at_ = static_cast<Offset>(end - bytes_.begin());
+  if (IsIgnored(Here())) {
+    token.kind = Token::kIgnored;
+    while (!AtEnd() && IsIgnored(Here())) ++at_;
+  } else {
+    token.kind = Token::kText;
+    while (!AtEnd() && IsLiteral(Here())) ++at_;
+  }
 }
 
 void Lexer::Backslash(Token& token) {

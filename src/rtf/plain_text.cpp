@@ -24,7 +24,8 @@ std::u32string DecodeUtf16(std::string_view bytes, bool bigEndian) {
       break;
     }
     const auto second = static_cast<unsigned char>(bytes[i + 1]);
-    const char32_t unit = bigEndian ? char32_t{first} << 8U | second : char32_t{second} << 8U | first;
+    const char32_t unit =
+        bigEndian ? char32_t{first} << 8U | second : char32_t{second} << 8U | first;
     const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
     if (low && high != 0) {
       text.back() = 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00);

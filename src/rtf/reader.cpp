@@ -56,7 +56,8 @@ class Reader {
   void CloseSkipped();
   void CloseGroup();
   void TakeObject(const Token& token);
-  void TakePictureForm(const WordEntry& entry);
+  void TakePictureForm(const WordEntry& entry, const Token& token);
+  bool IsOnlyLineEnds(Offset begin, Offset end) const;
   void EndHeader(const WordEntry* entry, const Token& token);
   void SetStandardPage(const CodePage& page);
   void AddCharacter(char32_t character, const Token& token, Origin::Kind kind = Origin::kPlain);
@@ -83,9 +84,10 @@ class Reader {
   Offset tablePlace_ = 0;  // where a colour table can stand
   bool ansiPageGiven_ = false;
 
-  // A picture given in two forms counts once: the form that came last, and how far the text was.
+  // The form of a picture that came last, where the text then stood and where its group ended.
   int pictureForm_ = 0;
   std::size_t pictureFormAt_ = 0;
+  Offset pictureEnd_ = 0;
 };
 
 Document Reader::Read() {
@@ -311,7 +313,7 @@ void Reader::TakeDestination(const WordEntry& entry, const Token& token) {
       skipNext_ = true;
       return;
     case Word::kPictureForm:
-      TakePictureForm(entry);
+      TakePictureForm(entry, token);
       return;
     case Word::kObject:
       TakeObject(token);
@@ -352,17 +354,27 @@ void Reader::TakeObject(const Token& token) {
   CloseGroup();
 }
 
-void Reader::TakePictureForm(const WordEntry& entry) {
-  const bool secondForm = pictureForm_ != 0 && pictureForm_ != entry.argument &&
-                          pictureFormAt_ == text_.Size();
-  if (secondForm) {
+// A picture may stand there in two forms, one behind the other: together they are one character.
+void Reader::TakePictureForm(const WordEntry& entry, const Token& token) {
+  const bool second = pictureForm_ != 0 && pictureForm_ != entry.argument &&
+                      pictureFormAt_ == text_.Size() && IsOnlyLineEnds(pictureEnd_, groupOpen_);
+  if (!second) {
+    TakeObject(token);
+    pictureForm_ = entry.argument;
+  } else {
+    const Offset end = SkipToClose();
+    text_.ExtendLast(std::min<Offset>(end + 1, static_cast<Offset>(bytes_.size())));
+    marks_.GroupIsCharacter();
+    CloseGroup();
     pictureForm_ = 0;
-    SkipGroup();
-    return;
   }
-  marks_.Other();
-  pictureForm_ = entry.argument;
-  pictureFormAt_ = text_.Size() + 1;
+  pictureFormAt_ = text_.Size();
+  pictureEnd_ = lexer_.At();
+}
+
+bool Reader::IsOnlyLineEnds(Offset begin, Offset end) const {
+  const std::string_view gap = std::string_view(bytes_).substr(begin, end - begin);
+  return gap.find_first_not_of("\r\n") == std::string_view::npos;
 }
 
 void Reader::Open(const Token& token) {
@@ -446,7 +458,8 @@ void Reader::EndHeader(const WordEntry* entry, const Token& token) {
 // Where rich text begins: behind a byte order mark and blanks. npos for anything else.
 std::size_t FindRichText(std::string_view bytes) {
   std::size_t at = bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
-  while (at < bytes.size() && std::string_view(" \t\r\n").find(bytes[at]) != std::string::npos) ++at;
+  while (at < bytes.size() && std::string_view(" \t\r\n").find(bytes[at]) != std::string::npos)
+    ++at;
   return bytes.substr(at).starts_with("{\\rtf") ? at : std::string_view::npos;
 }
 

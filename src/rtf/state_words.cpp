@@ -19,7 +19,8 @@ void Set(StateStack& states, Member member, T value) {
 }
 
 AttributeChange SetAttributes(StateStack& states, const AttributeChange& change) {
-  Set(states, [](auto& s) -> auto& { return s.attributes; },
+  Set(
+      states, [](auto& s) -> auto& { return s.attributes; },
       Changed(states.Now().attributes, change));
   return change;
 }
@@ -92,20 +93,25 @@ bool ApplyLook(const WordEntry& entry, const Token& token, const Tables& tables,
       SetPlain(tables, states);
       return true;
     case Word::kItalic:
-      Set(states, [](auto& s) -> auto& { return s.look.italic; }, IsOn(token));
+      Set(
+          states, [](auto& s) -> auto& { return s.look.italic; }, IsOn(token));
       return true;
     case Word::kStrike:
-      Set(states, [](auto& s) -> auto& { return s.look.struckOut; }, IsOn(token));
+      Set(
+          states, [](auto& s) -> auto& { return s.look.struckOut; }, IsOn(token));
       return true;
     case Word::kHidden:
-      Set(states, [](auto& s) -> auto& { return s.look.hidden; }, IsOn(token));
+      Set(
+          states, [](auto& s) -> auto& { return s.look.hidden; }, IsOn(token));
       return true;
     case Word::kScript:
-      Set(states, [](auto& s) -> auto& { return s.look.script; },
+      Set(
+          states, [](auto& s) -> auto& { return s.look.script; },
           IsOn(token) ? Clamped<std::int8_t>(entry.argument) : std::int8_t{0});
       return true;
     case Word::kBackground:
-      Set(states, [](auto& s) -> auto& { return s.look.background; },
+      Set(
+          states, [](auto& s) -> auto& { return s.look.background; },
           token.number > 0 ? static_cast<std::int32_t>(ColourOf(tables.colours, token.number))
                            : -1);
       return true;
@@ -113,14 +119,16 @@ bool ApplyLook(const WordEntry& entry, const Token& token, const Tables& tables,
       SelectFont(token.number, tables, states);
       return true;
     case Word::kFontSize:
-      Set(states, [](auto& s) -> auto& { return s.look.halfPoints; },
+      Set(
+          states, [](auto& s) -> auto& { return s.look.halfPoints; },
           Clamped<std::uint16_t>(std::max(1, token.hasNumber ? token.number : kDefaultFontSize)));
       return true;
     case Word::kDirection:
       SetDirection(states, entry.argument != 0);
       return true;
     case Word::kFallback:
-      Set(states, [](auto& s) -> auto& { return s.look.fallback; },
+      Set(
+          states, [](auto& s) -> auto& { return s.look.fallback; },
           Clamped<std::uint16_t>(token.hasNumber ? token.number : 1));
       return true;
     default:
@@ -132,32 +140,41 @@ void ApplyParagraph(const WordEntry& entry, const Token& token, StateStack& stat
   const auto length = Clamped<std::int16_t>(token.number);
   switch (entry.word) {
     case Word::kParagraphDefaults:
-      Set(states, [](auto& s) -> auto& { return s.paragraph; }, ParagraphLook());
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph; }, ParagraphLook());
       return;
     case Word::kAlignment:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.alignment; },
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.alignment; },
           static_cast<Alignment>(entry.argument));
       return;
     case Word::kParagraphDirection:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.rightToLeft; }, entry.argument != 0);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.rightToLeft; }, entry.argument != 0);
       return;
     case Word::kInTable:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.inTable; }, IsOn(token));
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.inTable; }, IsOn(token));
       return;
     case Word::kLeftIndent:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.left; }, length);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.left; }, length);
       return;
     case Word::kRightIndent:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.right; }, length);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.right; }, length);
       return;
     case Word::kFirstIndent:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.first; }, length);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.first; }, length);
       return;
     case Word::kSpaceBefore:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.before; }, length);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.before; }, length);
       return;
     case Word::kSpaceAfter:
-      Set(states, [](auto& s) -> auto& { return s.paragraph.after; }, length);
+      Set(
+          states, [](auto& s) -> auto& { return s.paragraph.after; }, length);
       return;
     default:
       return;
@@ -178,9 +195,11 @@ AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const
 
 void SelectFont(std::int32_t number, const Tables& tables, StateStack& states) {
   const Font* const font = tables.fonts.Find(number);
-  Set(states, [](auto& s) -> auto& { return s.look.font; },
+  Set(
+      states, [](auto& s) -> auto& { return s.look.font; },
       font != nullptr ? font->face : std::uint16_t{0});
-  Set(states, [](auto& s) -> auto& { return s.page; },
+  Set(
+      states, [](auto& s) -> auto& { return s.page; },
       font != nullptr ? font->page : tables.standardPage);
 }
 

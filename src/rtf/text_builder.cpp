@@ -46,10 +46,13 @@ void TextBuilder::AddBytes(std::string_view bytes, Offset begin) {
 }
 
 void TextBuilder::PutAscii(std::string_view bytes, Offset begin) {
-  text_.append(bytes.begin(), bytes.end());
-  formats_.insert(formats_.end(), bytes.size(), states_.Format());
+  const std::size_t first = text_.size();
+  text_.resize(first + bytes.size());
+  origins_.resize(first + bytes.size());
+  formats_.resize(first + bytes.size(), states_.Format());
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    origins_.push_back({static_cast<Offset>(begin + i), 1, Origin::kPlain});
+    text_[first + i] = static_cast<unsigned char>(bytes[i]);
+    origins_[first + i] = {static_cast<Offset>(begin + i), 1, Origin::kPlain};
   }
 }
 
@@ -102,7 +105,7 @@ void TextBuilder::ExtendUnicode(Offset end) {
   if (highHalf_ != 0) {
     pairEnd_ = end;
   } else {
-    origins_.back().length = end - origins_.back().begin;
+    ExtendLast(end);
   }
 }
 

@@ -31,6 +31,8 @@ class TextBuilder {
   bool AddUnicode(std::int32_t number, Offset begin, Offset end);
   // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
   void ExtendUnicode(Offset end);
+  // The last character reaches to `end`.
+  void ExtendLast(Offset end) { origins_.back().length = end - origins_.back().begin; }
 
   // Whether the last byte leads a multi-byte character that is not whole yet.
   bool AwaitsByte() const { return !sequence_.empty(); }
@@ -59,7 +61,7 @@ class TextBuilder {
   Offset sequenceBegin_ = 0;
   Offset sequenceEnd_ = 0;
 
-  char32_t highHalf_ = 0;     // of a pair, or 0
+  char32_t highHalf_ = 0;    // of a pair, or 0
   bool pairIsOpen_ = false;  // words stand behind the high half
   Offset pairBegin_ = 0;
   Offset pairEnd_ = 0;

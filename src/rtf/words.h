@@ -8,22 +8,22 @@ namespace quill::rtf {
 
 enum class Word : std::uint8_t {
   kUnknown,
-  kKnown,       // formatting that the program does not show; its text is text all the same
-  kHeader,      // may stand in front of the first table of a file
+  kKnown,   // formatting that the program does not show; its text is text all the same
+  kHeader,  // may stand in front of the first table of a file
   // Characters. The argument is the code point where it is not fixed.
   kCharacter,
-  kParagraph,   // a paragraph end
+  kParagraph,  // a paragraph end
   kCell,
   kRow,
-  kUnicode,     // \u
+  kUnicode,  // \u
   // Groups.
-  kSkipped,     // a destination whose content is no text of the document
+  kSkipped,      // a destination whose content is no text of the document
   kTransparent,  // a destination whose content is text
   kFontTable,
   kColourTable,
   kExpandedColourTable,
-  kObject,      // stands for one character
-  kPictureForm,  // one of two forms of the same picture
+  kObject,        // stands for one character
+  kPictureForm,   // one of two forms of the same picture
   kAlternatives,  // \upr: the first group gives way to the second
   // State.
   kPlain,
@@ -39,13 +39,13 @@ enum class Word : std::uint8_t {
   kItalic,
   kStrike,
   kHidden,
-  kScript,       // argument: 1, -1, 0
+  kScript,  // argument: 1, -1, 0
   kBackground,
   kFont,
   kFontSize,
-  kDirection,    // of the run; argument: 1 right to left
-  kFallback,     // \uc
-  kAlignment,    // argument: an Alignment
+  kDirection,  // of the run; argument: 1 right to left
+  kFallback,   // \uc
+  kAlignment,  // argument: an Alignment
   kParagraphDirection,
   kInTable,
   kLeftIndent,

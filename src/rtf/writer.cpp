@@ -48,13 +48,11 @@ class Writer {
     std::size_t end = 0;
   };
 
-  bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]]; }
+  bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
     return IsChanged(character) || origins_[character].IsTyped();
   }
-  const Attributes& Target(std::size_t character) const {
-    return targets_[formatIds_[character]];
-  }
+  const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
   Span CharactersOf(const MarkGroup& group) const;
   void FindTouchedTrees();
   void NumberColours();
@@ -75,7 +73,7 @@ class Writer {
   const std::vector<FormatId>& formatIds_;
   const std::vector<Origin>& origins_;
   std::vector<Attributes> targets_;  // of each format, as the file is to have it
-  std::vector<bool> changed_;        // whether that differs from what its place has
+  std::vector<char> changed_;        // whether that differs from what its place has
   std::vector<Tree> touched_;        // groups with a changed character in them, in order
   ColourNumbers colours_;
   PatchedCopy out_;
@@ -100,7 +98,7 @@ Writer::Writer(const Document& document)
   const FormatTable& formats = document.Formats();
   for (FormatId id = 0; id < formats.Size(); ++id) {
     targets_.push_back(InFile(formats[id].now));
-    changed_.push_back(targets_.back() != formats[id].written);
+    changed_.push_back(targets_.back() != formats[id].written ? 1 : 0);
   }
 }
 
@@ -108,7 +106,8 @@ std::string Writer::Write() {
   const bool nothing =
       document_.Cuts().empty() &&
       std::none_of(origins_.begin(), origins_.end(), [](const Origin& o) { return o.IsTyped(); }) &&
-      std::none_of(formatIds_.begin(), formatIds_.end(), [&](FormatId id) { return changed_[id]; });
+      std::none_of(formatIds_.begin(), formatIds_.end(),
+                   [&](FormatId id) { return changed_[id] != 0; });
   if (nothing) return source_.bytes;
 
   FindTouchedTrees();
@@ -159,7 +158,7 @@ void Writer::FindTouchedTrees() {
 // Every colour that will be written gets its number before the table is copied.
 void Writer::NumberColours() {
   std::vector<bool> used(targets_.size());
-  for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id];
+  for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id] != 0;
   for (const Tree& tree : touched_) {
     const Span inside = CharactersOf(source_.groups[tree.first]);
     for (std::size_t i = inside.begin; i < inside.end; ++i) used[formatIds_[i]] = true;
@@ -245,9 +244,8 @@ void Writer::EmitTree(const Tree& tree) {
       const Attributes inside = Changed(outside, group.words);
       const std::vector<FormatId>& formats = direct[index - tree.first];
       const bool keep = inside != outside &&
-                        std::any_of(formats.begin(), formats.end(), [&](FormatId id) {
-                          return writer.targets_[id] == inside;
-                        });
+                        std::any_of(formats.begin(), formats.end(),
+                                    [&](FormatId id) { return writer.targets_[id] == inside; });
       writer.CloseWrap();
       writer.out_.CopyTo(group.open);
       if (keep) {
@@ -258,9 +256,7 @@ void Writer::EmitTree(const Tree& tree) {
       kept.push_back(keep);
       inForce.push_back(keep ? inside : outside);
     }
-    void Character(std::size_t character, std::size_t) {
-      writer.Emit(character, inForce.back());
-    }
+    void Character(std::size_t character, std::size_t) { writer.Emit(character, inForce.back()); }
     void Close(std::size_t index) {
       const Offset brace = writer.source_.groups[index].close;
       writer.CloseWrap();

@@ -113,8 +113,8 @@ Document::Place Document::PlaceFor(Range range) const {
   if (Length() == 0) return {source_.bodyEnd, endFormat_};
   // Behind a paragraph's or a cell's end stand the words that set up what follows: typed text goes
   // behind them, in front of the next character.
-  const bool opens = at == 0 || text_[Index(at - 1)] == kParagraphEnd ||
-                     EndsCell(origins_[Index(at - 1)]);
+  const bool opens =
+      at == 0 || text_[Index(at - 1)] == kParagraphEnd || EndsCell(origins_[Index(at - 1)]);
   if (opens && at < Length()) return {origins_[Index(at)].begin, formatIds_[Index(at)]};
   return {origins_[Index(at - 1)].end(), formatIds_[Index(at - 1)]};
 }

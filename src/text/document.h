@@ -49,9 +49,8 @@ class Document {
  public:
   // An empty text without a source; rtf/ makes the documents that can be saved.
   Document();
-  Document(Source source, std::vector<FontFace> fonts, FormatTable formats,
-           std::u32string text, std::vector<FormatId> formatIds, std::vector<Origin> origins,
-           FormatId endFormat);
+  Document(Source source, std::vector<FontFace> fonts, FormatTable formats, std::u32string text,
+           std::vector<FormatId> formatIds, std::vector<Origin> origins, FormatId endFormat);
 
   Position Length() const { return static_cast<Position>(text_.size()); }
   const std::u32string& Text() const { return text_; }

@@ -56,9 +56,9 @@ struct CharacterLook {
   bool italic = false;
   bool struckOut = false;
   bool hidden = false;
-  bool rightToLeft = false;    // the run's own direction
-  std::int8_t script = 0;      // 1 superscript, -1 subscript
-  std::uint16_t fallback = 1;  // characters that follow \u for readers without Unicode
+  bool rightToLeft = false;      // the run's own direction
+  std::int8_t script = 0;        // 1 superscript, -1 subscript
+  std::uint16_t fallback = 1;    // characters that follow \u for readers without Unicode
   std::int32_t background = -1;  // a Colour, or -1 for none
 
   bool operator==(const CharacterLook&) const = default;

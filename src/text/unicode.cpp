@@ -27,7 +27,8 @@ char32_t Decode(std::string_view sequence) {
   const unsigned lead = static_cast<unsigned char>(sequence[0]);
   if (sequence.size() == 1) return lead;
   char32_t c = lead & (0x7FU >> sequence.size());
-  for (const char byte : sequence.substr(1)) c = c << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+  for (const char byte : sequence.substr(1))
+    c = c << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
   return c;
 }
 
@@ -59,8 +60,8 @@ std::u32string DecodeWith(std::string_view bytes, StrayByte stray) {
   text.reserve(bytes.size());
   while (!bytes.empty()) {
     const std::size_t length = SequenceLength(bytes);
-    text += length > 0 ? Decode(bytes.substr(0, length))
-                       : stray(static_cast<unsigned char>(bytes[0]));
+    text +=
+        length > 0 ? Decode(bytes.substr(0, length)) : stray(static_cast<unsigned char>(bytes[0]));
     bytes.remove_prefix(length > 0 ? length : 1);
   }
   return text;

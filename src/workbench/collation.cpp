@@ -27,8 +27,8 @@ const icu::Collator& UserCollator() {
   static const std::unique_ptr<icu::Collator> collator = [] {
     UErrorCode status = U_ZERO_ERROR;
     const std::string name = LocaleName();
-    const icu::Locale locale = name.empty() ? icu::Locale::getRoot()
-                                            : icu::Locale::createCanonical(name.c_str());
+    const icu::Locale locale =
+        name.empty() ? icu::Locale::getRoot() : icu::Locale::createCanonical(name.c_str());
     std::unique_ptr<icu::Collator> made(icu::Collator::createInstance(locale, status));
     if (U_FAILURE(status) != 0) throw std::runtime_error("ICU has no collation data");
     return made;

@@ -39,9 +39,7 @@ void Control::SetFocus() {
   if (box != nullptr && box->GotFocus != nullptr) form_.QueueFocusEvent(box->GotFocus);
 }
 
-void Control::Written(PropertyId property) {
-  form_.TheWatcher().PropertyChanged(*this, property);
-}
+void Control::Written(PropertyId property) { form_.TheWatcher().PropertyChanged(*this, property); }
 
 void Control::Raise(Handler handler) {
   if (handler != nullptr) handler(form_);

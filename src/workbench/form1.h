@@ -153,7 +153,6 @@ class Form1 : public Control {
   void SetWatcher(Watcher* watcher);
   Watcher& TheWatcher() const { return *watcher_; }
 
-
  private:
   friend class Control;
   void Enter(Control& control);

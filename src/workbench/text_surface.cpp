@@ -163,9 +163,8 @@ void TextSurface::TypeOver(std::u32string_view text) {
   if (typed.empty()) return;
   const Attributes attributes = TypingAttributes();
   const Range over = selection_;
-  const std::u32string_view old =
-      std::u32string_view(Text()).substr(static_cast<std::size_t>(over.begin),
-                                         static_cast<std::size_t>(over.Length()));
+  const std::u32string_view old = std::u32string_view(Text()).substr(
+      static_cast<std::size_t>(over.begin), static_cast<std::size_t>(over.Length()));
   const std::size_t most = std::min(old.size(), typed.size());
   std::size_t head = 0;
   while (head < most && old[head] == typed[head]) ++head;

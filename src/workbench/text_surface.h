@@ -39,8 +39,7 @@ class TextSurface : public Control {
   // Writing SelStart empties the selection. Beyond the text's end it is the end; below 0 it is 0.
   Accessor<TextSurface, &TextSurface::ReadSelStart, &TextSurface::WriteSelStart> SelStart{*this};
   // Beyond the text's end it is what remains; below 0 it is 0.
-  Accessor<TextSurface, &TextSurface::ReadSelLength, &TextSurface::WriteSelLength> SelLength{
-      *this};
+  Accessor<TextSurface, &TextSurface::ReadSelLength, &TextSurface::WriteSelLength> SelLength{*this};
   // Reading an attribute gives nothing where the selection mixes its values.
   Accessor<TextSurface, &TextSurface::ReadSelColor, &TextSurface::WriteSelColor> SelColor{*this};
   // In twips.

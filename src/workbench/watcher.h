@@ -10,8 +10,16 @@ class ListBox;
 class ComboBox;
 
 // Which property of a control was written with a new value.
-enum class PropertyId { kText, kEnabled, kVisible, kBackColor, kForeColor, kFontBold, kCaption,
-                        kListIndex };
+enum class PropertyId {
+  kText,
+  kEnabled,
+  kVisible,
+  kBackColor,
+  kForeColor,
+  kFontBold,
+  kCaption,
+  kListIndex
+};
 
 // Calls arrive inside the write, in the order of the writes. A watcher only looks: it must not
 // write to the model before the action has ended.
