@@ -1,0 +1,220 @@
+// What a save writes: the source, with the marks in it and nothing else changed.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+#include "support/rich_text.h"
+#include "text/unicode.h"
+
+namespace quill {
+namespace {
+
+constexpr AttributeChange kBlue{.colour = RGB(0, 0, 255), .bold = true};
+constexpr AttributeChange kPlain{.colour = 0, .bold = false, .underline = false, .offset = 0};
+const std::string kTable = "{\\colortbl;\\red0\\green0\\blue255;}";
+
+std::string Marked(const std::string& file, Range range, const AttributeChange& change = kBlue) {
+  Document document = *rtf::Read(file);
+  document.Apply(range, change);
+  return rtf::Write(document);
+}
+
+TEST(RtfWriter, WrapsStretchesAndNothingElse) {
+  struct Case {
+    std::string body;
+    Range range;
+    std::string expected;
+  };
+  const std::vector<Case> cases = {
+      {"\\b0 He came.", {3, 7}, "\\b0 He {\\cf1\\b came}."},
+      // Whatever stands among the characters stays outside of the braces.
+      {"ca{\\i m}e\\par", {0, 5}, "{\\cf1\\b ca}{\\i {\\cf1\\b m}}{\\cf1\\b e\\par}"},
+      {"ca\\-me{\\*\\x y}s", {0, 5}, "{\\cf1\\b ca}\\-{\\cf1\\b me}{\\*\\x y}{\\cf1\\b s}"},
+      {"ca\r\nme", {1, 4}, "c{\\cf1\\b a\r\nme}"},
+      {"\\'e9\\u8217 ?x", {0, 2}, "{\\cf1\\b \\'e9\\u8217 ?}x"},
+      // Only what differs is said.
+      {"\\b x\\cf1 y", {0, 2}, "\\b {\\cf1 x}\\cf1 y"},
+      {"{\\b x}", {0, 1}, "{\\b\\cf1 x}"},
+      {"{\\pict 00}", {0, 1}, "{\\cf1\\b {\\pict 00}}"},
+      // The weight of a right-to-left run goes by two names.
+      {"\\rtlch x", {0, 1}, "\\rtlch {\\cf1\\b\\ab x}"},
+      // Words between the halves of a pair must not be undone.
+      {"\\u55357?\\uc1\\u56842?", {0, 1}, "\\cf1\\b \\u55357?\\uc1\\u56842?\\cf0\\b0 "},
+      // A mark of an earlier save is taken apart, and what is left of it stays.
+      {"a{\\cf1\\b bcd}e", {1, 4}, "a{\\cf1\\b bcd}e"},
+      {"a{\\cf1\\b bcd}e", {0, 5}, "{\\cf1\\b a}{\\cf1\\b bcd}{\\cf1\\b e}"},
+  };
+  for (const Case& c : cases) {
+    std::string expected = "{\\rtf1" + kTable + c.expected + "}";
+    if (c.body == "{\\b x}") expected = "{\\rtf1" + kTable + "{\\cf1\\b x}}";
+    EXPECT_EQ(Marked("{\\rtf1" + kTable + c.body + "}", c.range), expected) << c.body;
+  }
+}
+
+TEST(RtfWriter, TakesMarksOffAgain) {
+  const std::string file = "{\\rtf1" + kTable + "a{\\cf1\\b b{\\up3 c}d}e}";
+  EXPECT_EQ(Marked(file, {1, 4}, kPlain), "{\\rtf1" + kTable + "abcde}");
+  EXPECT_EQ(Marked(file, {2, 3}, kPlain), "{\\rtf1" + kTable + "a{\\cf1\\b b{\\cf0\\b0 c}d}e}");
+  EXPECT_EQ(Marked(file, {1, 2}, kPlain),
+            "{\\rtf1" + kTable + "a{\\cf1\\b {\\cf0\\b0 b}{\\up3 c}d}e}");
+  EXPECT_EQ(Marked("{\\rtf1" + kTable + "\\cf1 a}", {0, 1}, kPlain),
+            "{\\rtf1" + kTable + "\\cf1 {\\cf0 a}}");
+}
+
+TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
+  struct Case {
+    std::string file;
+    std::string expected;
+  };
+  const std::vector<Case> cases = {
+      {"{\\rtf1 x}", "{\\rtf1 {\\colortbl;\\red0\\green0\\blue255;}{\\cf1\\b x}}"},
+      {"{\\rtf1{\\fonttbl{\\f0 A;}}x}",
+       "{\\rtf1{\\fonttbl{\\f0 A;}}{\\colortbl;\\red0\\green0\\blue255;}{\\cf1\\b x}}"},
+      {"{\\rtf1{\\colortbl;\\red9;}x}",
+       "{\\rtf1{\\colortbl;\\red9;\\red0\\green0\\blue255;}{\\cf2\\b x}}"},
+      {"{\\rtf1{\\colortbl;\\red9}x}",
+       "{\\rtf1{\\colortbl;\\red9;\\red0\\green0\\blue255;}{\\cf2\\b x}}"},
+      {"{\\rtf1{\\colortbl;}{\\header\\cb3 h}x}",
+       "{\\rtf1{\\colortbl;;;;\\red0\\green0\\blue255;}{\\header\\cb3 h}{\\cf4\\b x}}"},
+      {"{\\rtf1{\\colortbl;}{\\*\\expandedcolortbl;}x}",
+       "{\\rtf1{\\colortbl;\\red0\\green0\\blue255;}{\\*\\expandedcolortbl;"
+       "\\cssrgb\\c0\\c0\\c100000;}"
+       "{\\cf1\\b x}}"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(Marked(c.file, {0, 1}), c.expected) << c.file;
+}
+
+TEST(RtfWriter, WritesARaisedPositionInHalfPoints) {
+  const std::vector<std::pair<Twips, Twips>> cases = {
+      {25, 30}, {1, 10}, {20, 20}, {-3, -10}, {0, 0}};
+  for (const auto& [set, back] : cases) {
+    const std::string file = Marked("{\\rtf1 x}", {0, 1}, {.offset = set});
+    EXPECT_EQ(rtf::Read(file)->At(0).offset, back) << set;
+    EXPECT_EQ(Marked(file, {0, 1}, {.offset = set}), file) << "set again to " << set;
+  }
+}
+
+TEST(RtfWriter, PutsTypedCharactersIn) {
+  struct Case {
+    std::string body;
+    Range range;
+    std::u32string typed;
+    std::string expected;
+  };
+  const std::vector<Case> cases = {
+      {"ab", {1, 1}, U"é{\n", "a\\u233?\\{\\par b"},
+      {"ab", {0, 2}, U"", ""},
+      {"\\b\\'e9x", {0, 1}, U"", "\\b x"},
+      {"\\b\\'e9-1", {0, 1}, U"", "\\b -1"},
+      {"\\i1\\'e92x", {0, 1}, U"", "\\i1 2x"},
+      {"{\\uc0\\b\\'e9}", {0, 1}, U"—x", "{\\uc0\\b\\u8212 x}"},
+      {"a{\\b b}c", {2, 2}, U"x", "a{\\b bx}c"},
+      {"a\\par\\pard\\qc b", {2, 2}, U"x", "a\\par\\pard\\qc xb"},
+      {"", {0, 0}, U"x😊", "x\\u-10179?\\u-8694?"},
+  };
+  for (const Case& c : cases) {
+    Document document = *rtf::Read("{\\rtf1 " + c.body + "}");
+    document.Type(c.range, c.typed,
+                  document.Length() > 0 ? document.At(std::max<Position>(0, c.range.begin - 1))
+                                        : Attributes{});
+    EXPECT_EQ(rtf::Write(document), "{\\rtf1 " + c.expected + "}") << c.body;
+  }
+}
+
+// A file of random pieces of all that matters to the writer.
+std::string RandomFile(std::mt19937& random) {
+  static const char* const kPieces[] = {"a",
+                                        "b",
+                                        "word ",
+                                        "\\'e9",
+                                        "\\u8217?",
+                                        "\\uc0\\u8217 ",
+                                        "{",
+                                        "}",
+                                        "{\\b ",
+                                        "{\\cf1\\b ",
+                                        "{\\cf0\\b0 ",
+                                        "{\\up3 ",
+                                        "\\par\n",
+                                        "\\b",
+                                        "\\b0 ",
+                                        "\\cf2 ",
+                                        "\\ul",
+                                        "\\plain ",
+                                        "\\-",
+                                        "{\\*\\x y}",
+                                        "{\\pict 0}",
+                                        "\\rtlch ",
+                                        "\\ltrch",
+                                        "\r\n",
+                                        "{\\footnote z}",
+                                        "\\cell ",
+                                        "\\row ",
+                                        "\\intbl ",
+                                        "\\pard ",
+                                        "{\\ulnone ",
+                                        "7",
+                                        "-"};
+  std::string file = "{\\rtf1\\ansi" + kTable;
+  const unsigned pieces = random() % 40;
+  for (unsigned i = 0; i < pieces; ++i) file += kPieces[random() % std::size(kPieces)];
+  return file + "}";
+}
+
+TEST(RtfWriter, KeepsRandomFilesThroughRandomMarksAndEdits) {
+  std::mt19937 random(11);
+  for (int round = 0; round < 4000; ++round) {
+    std::string file = RandomFile(random);
+    SCOPED_TRACE(file);
+    Document document = *rtf::Read(file);
+    EXPECT_EQ(rtf::Write(document), file);
+    for (int save = 0; save < 3; ++save) {
+      for (int step = 0; step < 4 && document.Length() > 0; ++step) {
+        const auto length = static_cast<unsigned>(document.Length());
+        const auto begin = static_cast<Position>(random() % length);
+        const Range range{begin, std::min<Position>(begin + random() % 6, document.Length())};
+        if (random() % 3 > 0) {
+          Mark(document, range, random() % 7);
+        } else if (document.CanDelete(range)) {
+          const std::u32string typed =
+              std::u32string(U"x 7-é\n").substr(random() % 7, random() % 3);
+          std::vector<Cell> gone = document.Type(range, typed, document.At(begin));
+          if (random() % 3 == 0) {
+            document.Exchange({begin, begin + static_cast<Position>(typed.size())}, gone);
+          }
+        }
+      }
+      document.Check();
+      file = rtf::Write(document);
+      SCOPED_TRACE("saved as " + file);
+      Document again = *rtf::Read(file);
+      ExpectSameText(document, again);
+      if (testing::Test::HasFatalFailure()) return;
+      document = std::move(again);
+    }
+  }
+}
+
+TEST(RtfWriter, DoesNotGrowByAHundredRounds) {
+  Document document =
+      *rtf::Read("{\\rtf1" + kTable + "one {\\b two three} four\\par five\\'e9six}");
+  std::vector<std::size_t> sizes;
+  for (int round = 0; round < 100; ++round) {
+    document.Apply({2, 11}, kBlue);
+    document.Apply({8, 24}, {.colour = RGB(0, 0, 255), .bold = false, .offset = 25});
+    sizes.push_back(rtf::Write(document).size());
+    document = *rtf::Read(rtf::Write(document));
+    document.Apply({0, document.Length()}, kPlain);
+    document.Apply({4, 13}, {.bold = true});
+    document = *rtf::Read(rtf::Write(document));
+  }
+  EXPECT_EQ(sizes.front(), sizes.back());
+  EXPECT_EQ(Dump(document), "one <b>two three</> four\nfiveésix");
+}
+
+}  // namespace
+}  // namespace quill

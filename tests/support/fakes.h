@@ -1,0 +1,109 @@
+// Stand-ins for the machine and its user: a disk in memory that fails on demand, and dialogs with
+// answers given beforehand.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "workbench/failure.h"
+#include "workbench/platform.h"
+
+namespace quill::test {
+
+enum class DiskCall { kRead, kReplace, kAppendLine, kCreateIfMissing };
+
+class MemoryDisk final : public Disk {
+ public:
+  std::map<std::string, std::string> files;
+
+  // From now on that call on that path fails.
+  void Refuse(DiskCall call, const std::string& path) { refused_.emplace(call, path); }
+  bool Has(const std::string& path) const { return files.contains(path); }
+
+  std::string Read(const std::string& path) override {
+    Check(DiskCall::kRead, path);
+    if (!Has(path)) throw StatementFailed("there is no " + path);
+    return files[path];
+  }
+  void Replace(const std::string& path, std::string_view bytes) override {
+    Check(DiskCall::kReplace, path);
+    files[path] = bytes;
+  }
+  void AppendLine(const std::string& path, std::string_view line) override {
+    Check(DiskCall::kAppendLine, path);
+    std::string& file = files[path];
+    if (!file.empty() && file.back() != '\n') file += "\r\n";
+    file.append(line).append("\r\n");
+  }
+  void CreateIfMissing(const std::string& path) override {
+    Check(DiskCall::kCreateIfMissing, path);
+    files.try_emplace(path);
+  }
+
+ private:
+  void Check(DiskCall call, const std::string& path) const {
+    if (refused_.contains({call, path})) throw StatementFailed("refused: " + path);
+  }
+
+  std::set<std::pair<DiskCall, std::string>> refused_;
+};
+
+// A dialog that was shown, with all that it was given.
+struct Shown {
+  std::string dialog;  // "ShowOpen", "ShowSave" or "MsgBox"
+  std::u32string title;
+  std::u32string filter = {};    // of a file dialog
+  std::u32string proposed = {};  // of a save dialog
+  std::u32string prompt = {};    // of a message box
+  int buttons = 0;               // of a message box
+};
+
+class ScriptedDialogs final : public Dialogs {
+ public:
+  struct Cancel {};
+  struct Proposed {};
+  // A path, a button of a message box, or what the user does with a file dialog.
+  using Answer = std::variant<std::u32string, int, Cancel, Proposed>;
+
+  std::deque<Answer> answers;
+  std::vector<Shown> shown;
+
+  std::optional<std::u32string> ShowOpen(const std::u32string& title,
+                                         const std::u32string& filter) override {
+    shown.push_back({.dialog = "ShowOpen", .title = title, .filter = filter});
+    return Path(U"");
+  }
+  std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
+                                         const std::u32string& proposed) override {
+    shown.push_back({.dialog = "ShowSave", .title = title, .filter = filter, .proposed = proposed});
+    return Path(proposed);
+  }
+  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override {
+    shown.push_back({.dialog = "MsgBox", .title = title, .prompt = prompt, .buttons = buttons});
+    return std::get<int>(Next());
+  }
+
+ private:
+  Answer Next() {
+    if (answers.empty()) throw std::logic_error("a dialog opened that no answer waits for");
+    Answer answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+  }
+  std::optional<std::u32string> Path(const std::u32string& proposed) {
+    const Answer answer = Next();
+    if (std::holds_alternative<Cancel>(answer)) return std::nullopt;
+    if (std::holds_alternative<Proposed>(answer)) return proposed;
+    return std::get<std::u32string>(answer);
+  }
+};
+
+}  // namespace quill::test

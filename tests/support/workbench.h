@@ -1,0 +1,35 @@
+// The program with fakes around it, and texts drawn as strings.
+//
+// A drawing has a letter a character: '.' black, 'a' and 'b' in the colour of the two kinds of
+// mark, 'l' in the light blue of an automatic mark; the same letter as a capital, and '_' for
+// black, is underlined.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "program/program.h"
+#include "support/fakes.h"
+
+namespace quill::test {
+
+// A text without a file behind it: good for all but saving.
+Document Painted(std::u32string_view text, std::string_view drawing);
+
+// The colours and underlines of the text.
+std::string Drawing(const TextSurface& surface);
+
+struct Workbench {
+  MemoryDisk disk;
+  ScriptedDialogs dialogs;
+  Program program{dialogs, disk};
+  Form1& form = program.Form();
+  TextSurface& text = form.RichTextBox1;
+
+  // Puts a text in place with its mode's frame shown, as after an opening.
+  void ShowText(std::u32string_view characters, std::string_view drawing);
+  // Opens a file with these answers of the user.
+  void Open(std::initializer_list<ScriptedDialogs::Answer> answers);
+};
+
+}  // namespace quill::test
