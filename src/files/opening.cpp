@@ -1,0 +1,81 @@
+#include "files/opening.h"
+
+#include "files/text_family.h"
+#include "files/text_lines.h"
+#include "info/guidance.h"
+#include "tags/tag_editor.h"
+#include "text/unicode.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+void ShowOpenDialog(Form1& form) {
+  form.CommonDialog1.DialogTitle = U"Load existing *.tbf-file or new *.rtf-file for tagging";
+  form.CommonDialog1.CancelError = false;
+  form.CommonDialog1.Filter =
+      U" tbf-files(*.tbf)| *.tbf| rtf-files (*.rtf)| *.rtf| All files (*.*)|*.*";
+  form.CommonDialog1.ShowOpen();
+}
+
+// The new text becomes the working copy's text; its tag list and dictionary stay as they are.
+void MakeWorkingCopy(Form1& form) {
+  form.User_Dialogue.Text =
+      U"Please save a *.tbf working copy before you start working with this file.";
+  form.CommonDialog1.DialogTitle = U"Create and save a *.tbf working copy of the input file";
+  form.CommonDialog1.CancelError = false;
+  form.CommonDialog1.FileName = BaseOf(form.WorkState.TextBaseFile.Text()) + U".tbf";
+  form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
+  form.CommonDialog1.ShowSave();
+  if (form.CommonDialog1.FileName.empty()) return;
+  form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
+  EnsureTagListFile(form);
+  form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text());
+  form.Caption = U"Quillorandix v1.07 ----- saved files " + form.WorkState.TextBaseFile.Text() +
+                 U" + " + form.WorkState.TagListFile.Text();
+  form.mnuProcess.Enabled = true;
+}
+
+void Open(Form1& form) {
+  form.mnuDialogue_on.Enabled = false;
+  form.Infoframe.Visible = false;
+  ResetTagEditor(form);
+  ApplyTagEditorRules(form);
+  form.TagList.Clear();
+  ShowOpenDialog(form);
+  if (form.CommonDialog1.FileName.size() < 4) return;
+  form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
+  form.PreFrame.Visible = true;
+  form.RichTextBox1.LoadFile(form.WorkState.TextBaseFile.Text());
+  form.BMarkedString.Text = U"";
+  form.AMarkedString.Text = U"";
+  form.TaggedString.Text = U"";
+  LoadTagList(form);
+  OpenSpecificDict(form);
+  form.Frame5.Enabled = true;
+  form.Caption = U"Quillorandix v 1.07 processing " + form.WorkState.TextBaseFile.Text();
+  if (IsWorkingCopy(form.WorkState.TextBaseFile.Text())) {
+    form.mnuProcess.Enabled = true;
+    return;
+  }
+  MakeWorkingCopy(form);
+}
+
+}  // namespace
+
+void mnuFileOpen_Click(Form1& form) {
+  LeaveOnFailure([&] { Open(form); });
+}
+
+void LoadTagList(Form1& form) {
+  DeriveTagListFile(form);
+  const std::string path = EncodePath(form.WorkState.TagListFile.Text());
+  form.TheDisk().CreateIfMissing(path);
+  for (const std::u32string& line : DecodeLines(form.TheDisk().Read(path))) {
+    form.TagList.AddItem(line);
+  }
+  form.User_Dialogue.Text = PreProcessIntro();
+}
+
+}  // namespace quill

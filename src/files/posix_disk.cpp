@@ -1,0 +1,120 @@
+#include "files/posix_disk.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <optional>
+
+#include "files/descriptor.h"
+#include "files/replacement.h"
+
+namespace quill {
+namespace {
+
+constexpr std::size_t kMostBytes = 0xFFFFFFFFU;
+constexpr std::string_view kLineEnd = "\r\n";
+
+// The status of the file that stands at the path; nothing where there is none.
+std::optional<struct stat> StatusAt(const std::string& path) {
+  struct stat status = {};
+  if (lstat(path.c_str(), &status) == 0) return status;
+  if (errno != ENOENT) FailDisk(path, "written");
+  return std::nullopt;
+}
+
+// Makes an empty file unless one is there.
+void Make(const std::string& path) {
+  const Descriptor file(path, O_RDWR | O_CREAT, 0666);
+  if (!file.IsOpen()) FailDisk(path, "made");
+  FlushFolderOf(TargetOf(path));
+}
+
+// Reserves room behind the file's end, so that a full disk shows before anything is written.
+void ReserveRoom(const Descriptor& file, const std::string& path, off_t at, std::size_t length) {
+#ifdef __linux__
+  const auto room = static_cast<off_t>(length);
+  while (fallocate(file.Number(), FALLOC_FL_KEEP_SIZE, at, room) != 0) {
+    if (errno == EINTR) continue;
+    if (errno == ENOSPC || errno == EDQUOT || errno == EFBIG) FailDisk(path, "written");
+    return;  // not every file system can
+  }
+#endif
+}
+
+bool LacksLineEnd(const Descriptor& file, const std::string& path, off_t size) {
+  if (size == 0) return false;
+  char last = '\0';
+  if (pread(file.Number(), &last, 1, size - 1) != 1) FailDisk(path, "read");
+  return last != '\n' && last != '\r';
+}
+
+// Takes back what a failed write left of a line, unless others have written behind it.
+void TakeBack(const Descriptor& file, off_t oldSize, ssize_t written) {
+  const off_t reached = oldSize + (written > 0 ? written : 0);
+  if (file.Status().st_size != reached) return;
+  while (ftruncate(file.Number(), oldSize) != 0 && errno == EINTR) {
+  }
+}
+
+void AppendAtOnce(const Descriptor& file, const std::string& path, off_t size,
+                  std::string_view bytes) {
+  ReserveRoom(file, path, size, bytes.size());
+  ssize_t written = -1;
+  do {
+    written = write(file.Number(), bytes.data(), bytes.size());
+  } while (written < 0 && errno == EINTR);
+  if (written == static_cast<ssize_t>(bytes.size())) return;
+  const int reason = written < 0 ? errno : ENOSPC;
+  TakeBack(file, size, written);
+  errno = reason;
+  FailDisk(path, "written");
+}
+
+}  // namespace
+
+std::string PosixDisk::Read(const std::string& path) {
+  const Descriptor file(path, O_RDONLY);
+  if (!file.IsOpen()) FailDisk(path, "opened");
+  file.OrdinaryStatus();
+  return file.ReadAll(kMostBytes);
+}
+
+void PosixDisk::Replace(const std::string& path, std::string_view bytes) {
+  if (path.find('\0') != std::string::npos) FailDisk(path, "written", "its name holds a NUL");
+  const std::string target = TargetOf(path);
+  const std::optional<struct stat> old = StatusAt(target);
+  if (old && !S_ISREG(old->st_mode)) FailDisk(path, "written", "it is no ordinary file");
+  if (old && faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) FailDisk(path, "written");
+  Replacement replacement(target, old.has_value());
+  replacement.Fill(bytes);
+  if (old) replacement.TakePermissionsOf(*old);
+  replacement.PutInPlace();
+}
+
+void PosixDisk::AppendLine(const std::string& path, std::string_view line) {
+  CreateIfMissing(path);
+  const Descriptor file(path, O_RDWR | O_APPEND);
+  if (!file.IsOpen()) FailDisk(path, "opened");
+  const off_t size = file.OrdinaryStatus().st_size;
+  std::string bytes;
+  if (LacksLineEnd(file, path, size)) bytes += kLineEnd;
+  bytes += line;
+  bytes += kLineEnd;
+  AppendAtOnce(file, path, size, bytes);
+  file.Flush();
+}
+
+void PosixDisk::CreateIfMissing(const std::string& path) {
+  const Descriptor file(path, O_RDWR);
+  if (file.IsOpen()) {
+    file.OrdinaryStatus();
+  } else if (errno == ENOENT) {
+    Make(path);
+  } else {
+    FailDisk(path, "opened");
+  }
+}
+
+}  // namespace quill

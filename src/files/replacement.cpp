@@ -1,0 +1,106 @@
+#include "files/replacement.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+
+namespace quill {
+namespace {
+
+// The name is cut where it would grow beyond what a file system takes.
+std::string TemporaryPath(const std::string& target) {
+  constexpr std::string_view kEnding = ".quill-saving";
+  const std::string folder = FolderPart(target);
+  const std::string name = target.substr(folder.size());
+  return folder + "." + name.substr(0, NAME_MAX - kEnding.size() - 1) + std::string(kEnding);
+}
+
+// Whether the lock is ours. Where the file system has no locks, it counts as ours.
+bool Lock(const Descriptor& file) {
+  return flock(file.Number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+// The path for the temporary file, with what a crash left there removed. A file that another
+// program is writing at this moment stays.
+std::string ClearedPath(const std::string& target) {
+  std::string path = TemporaryPath(target);
+  const Descriptor stale(path, O_RDWR | O_NOFOLLOW);
+  if (!stale.IsOpen() && errno == ENOENT) return path;
+  const bool isLink = !stale.IsOpen() && errno == ELOOP;
+  if (!stale.IsOpen() && !isLink) FailDisk(target, "written");
+  if (!isLink && !Lock(stale)) FailDisk(target, "written", "another program is saving it");
+  if (unlink(path.c_str()) != 0 && errno != ENOENT) FailDisk(target, "written");
+  return path;
+}
+
+bool IsSameFile(const struct stat& left, const struct stat& right) {
+  return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
+// What a link holds; nothing where the path is no link.
+std::string LinkText(const std::string& path) {
+  std::array<char, PATH_MAX> text{};
+  const ssize_t length = readlink(path.c_str(), text.data(), text.size());
+  return length < 0 ? std::string() : std::string(text.data(), static_cast<std::size_t>(length));
+}
+
+}  // namespace
+
+std::string TargetOf(const std::string& path) {
+  constexpr int kMostLinks = 40;
+  std::string target = path;
+  for (int links = 0; links < kMostLinks; ++links) {
+    const std::string next = LinkText(target);
+    if (next.empty()) return target;
+    target.resize(next.front() == '/' ? 0 : FolderPart(target).size());
+    target += next;
+  }
+  FailDisk(path, "written", "its links go round in a circle");
+}
+
+Replacement::Replacement(const std::string& target, bool restricted)
+    : target_(target),
+      path_(ClearedPath(target)),
+      file_(path_, O_WRONLY | O_CREAT | O_EXCL, restricted ? 0600 : 0666, target) {
+  if (!file_.IsOpen()) FailDisk(target_, "written");
+  // Between making and locking, another program may have taken the file for a stale one.
+  struct stat there = {};
+  const bool ours =
+      Lock(file_) && lstat(path_.c_str(), &there) == 0 && IsSameFile(there, file_.Status());
+  if (!ours) FailDisk(target_, "written", "another program is saving it");
+}
+
+Replacement::~Replacement() {
+  if (!inPlace_) unlink(path_.c_str());
+}
+
+void Replacement::Fill(std::string_view bytes) const {
+  file_.WriteAll(bytes);
+  file_.Flush();
+}
+
+void Replacement::TakePermissionsOf(const struct stat& old) const {
+  const struct stat fresh = file_.Status();
+  const auto sameUser = static_cast<uid_t>(-1);
+  // Who may not give a file away may still give it to another group of their own.
+  const bool owned = (old.st_uid == fresh.st_uid && old.st_gid == fresh.st_gid) ||
+                     fchown(file_.Number(), old.st_uid, old.st_gid) == 0 ||
+                     fchown(file_.Number(), sameUser, old.st_gid) == 0;
+  // A program that runs as its owner must not run as another one.
+  const mode_t kept = owned ? 07777 : 0777;
+  if (((file_.Status().st_mode ^ old.st_mode) & kept) == 0) return;
+  if (fchmod(file_.Number(), old.st_mode & kept) != 0) FailDisk(target_, "given its permissions");
+}
+
+void Replacement::PutInPlace() {
+  if (rename(path_.c_str(), target_.c_str()) != 0) FailDisk(target_, "replaced");
+  inPlace_ = true;
+  FlushFolderOf(target_);
+}
+
+}  // namespace quill

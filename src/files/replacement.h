@@ -1,0 +1,36 @@
+// The temporary file through which a file is replaced.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "files/descriptor.h"
+
+namespace quill {
+
+// The file that a path means in the end: links are followed, also to a target that does not exist.
+std::string TargetOf(const std::string& path);
+
+// Made beside its target and locked. Unless it was put in place, it is gone when this ends.
+class Replacement {
+ public:
+  // With `restricted` nobody else may read it before its permissions are set.
+  Replacement(const std::string& target, bool restricted);
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement();
+
+  // Writes and flushes.
+  void Fill(std::string_view bytes) const;
+  void TakePermissionsOf(const struct stat& old) const;
+  // Renames it over the target and flushes the folder.
+  void PutInPlace();
+
+ private:
+  std::string target_;
+  std::string path_;
+  Descriptor file_;
+  bool inPlace_ = false;
+};
+
+}  // namespace quill

@@ -1,0 +1,59 @@
+#include "files/saving.h"
+
+#include "files/text_family.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// FileName is empty afterwards where the user cancelled.
+void ShowSaveDialog(Form1& form) {
+  form.CommonDialog1.DialogTitle = U"Save your tagged *.tbf-file";
+  form.CommonDialog1.CancelError = false;
+  form.CommonDialog1.FileName = BaseOf(form.WorkState.TextBaseFile.Text()) + U".tbf";
+  form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
+  form.CommonDialog1.ShowSave();
+}
+
+void ShowSaved(Form1& form) {
+  form.Caption = U"Quillorandix v1.05 ----- saved files " + form.WorkState.TextBaseFile.Text() +
+                 U" + " + form.WorkState.TagListFile.Text();
+  form.mnuProcess.Enabled = true;
+}
+
+void SaveOnLeaving(Form1& form) {
+  CarryOn([&] { EnsureTagListFile(form); });
+  CarryOn([&] { form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text()); });
+  ShowSaved(form);
+}
+
+}  // namespace
+
+void mnuFileSave_Click(Form1& form) {
+  if (form.WorkState.TextBaseFile == U"") return;
+  ShowSaveDialog(form);
+  if (form.CommonDialog1.FileName.empty()) return;
+  form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
+  try {
+    EnsureTagListFile(form);
+    form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text());
+  } catch (const StatementFailed&) {
+    form.MsgBox(U"The text could not be saved to " + form.WorkState.TextBaseFile.Text() + U".", 16,
+                U"Save failed");
+    return;
+  }
+  ShowSaved(form);
+}
+
+void mnuFileClose_Click(Form1& form) {
+  if (form.WorkState.TextBaseFile != U"") {
+    ShowSaveDialog(form);
+    if (form.CommonDialog1.FileName.empty()) return;
+    form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
+    SaveOnLeaving(form);
+  }
+  form.End();
+}
+
+}  // namespace quill

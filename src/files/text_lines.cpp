@@ -1,0 +1,36 @@
+#include "files/text_lines.h"
+
+#include <algorithm>
+
+#include "text/unicode.h"
+
+namespace quill {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+}  // namespace
+
+std::vector<std::u32string> DecodeLines(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  std::vector<std::u32string> lines;
+  while (!bytes.empty()) {
+    const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
+    lines.push_back(DecodeLine(bytes.substr(0, end)));
+    bytes.remove_prefix(end);
+    bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : bytes.empty() ? 0 : 1);
+  }
+  return lines;
+}
+
+std::string EncodeLine(std::u32string_view line) {
+  std::u32string ended;
+  ended.reserve(line.size());
+  for (const char32_t c : line) {
+    if (c == kParagraphEnd && !ended.ends_with(U'\r')) ended += U'\r';
+    ended += c;
+  }
+  return ToUtf8(ended);
+}
+
+}  // namespace quill

@@ -1,0 +1,25 @@
+// The switch between the two modes, and the box and panels that open over the text.
+//
+// The mode is nothing but which of PreFrame and PostFrame is shown: a change of mode loses nothing
+// of what stands in them.
+#pragma once
+
+namespace quill {
+
+class Form1;
+
+void mnuPreProcess_Click(Form1& form);
+void mnuPostProcess_Click(Form1& form);
+
+void mnuDialogue_off_Click(Form1& form);
+void mnuDialogue_on_Click(Form1& form);
+
+// Opening the Info menu shows the panel already, and its one item does the same again.
+void mnuInfo_Click(Form1& form);
+void mnuVLK_Click(Form1& form);
+void Close_Info_Click(Form1& form);
+
+void mnuUserID_Click(Form1& form);
+void CloseIDFrame_Click(Form1& form);
+
+}  // namespace quill

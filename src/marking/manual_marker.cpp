@@ -1,0 +1,124 @@
+#include "marking/manual_marker.h"
+
+#include <string>
+
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// What tells the two kinds of marker apart.
+struct Marker {
+  CommandButton& define;
+  CommandButton& defineOther;
+  TextBox& box;
+  CommandButton& set;
+  CommandButton& reject;
+  Colour colour;
+  Colour lemmaColour;  // behind the lemma that Set hands to the dictionary panel
+  const char32_t* category;
+  bool rejectClosesFrame1;
+};
+
+Marker MarkerA(Form1& form) {
+  return {.define = form.DefAMarker,
+          .defineOther = form.DefBMarker,
+          .box = form.AMarkedString,
+          .set = form.AMarkSet,
+          .reject = form.AMarkReject,
+          .colour = RGB(0, 0, 255),
+          .lemmaColour = RGB(128, 128, 255),
+          .category = U"A",
+          .rejectClosesFrame1 = true};
+}
+
+Marker MarkerB(Form1& form) {
+  return {.define = form.DefBMarker,
+          .defineOther = form.DefAMarker,
+          .box = form.BMarkedString,
+          .set = form.BMarkSet,
+          .reject = form.BMarkReject,
+          .colour = RGB(255, 0, 0),
+          .lemmaColour = RGB(255, 0, 0),
+          .category = U"B",
+          .rejectClosesFrame1 = false};
+}
+
+void Define(Form1& form, const Marker& marker) {
+  form.WorkState.MarkerColor = marker.colour;
+  form.RichTextBox1.SetFocus();
+  if (form.RichTextBox1.SelLength > 0) {
+    form.RichTextBox1.SelColor = marker.colour;
+    form.WorkState.MarkedTerm = form.RichTextBox1.SelText();
+    marker.box.SetFocus();
+    marker.box.Text = U"";
+    form.SendKeys(form.WorkState.MarkedTerm.Text());
+    marker.box.FontBold = true;
+  }
+  marker.reject.Enabled = true;
+  marker.set.Enabled = true;
+  marker.defineOther.Enabled = false;
+  marker.define.Enabled = false;
+}
+
+void Set(Form1& form, const Marker& marker) {
+  marker.box.SetFocus();
+  const std::u32string term = marker.box.Text;
+  form.RichTextBox1.SetFocus();
+  form.SendKeys(term);
+  form.RichTextBox1.SelColor = marker.colour;
+  form.RichTextBox1.SelBold = true;
+  form.add_to_dictionary.Text = marker.box.Text;
+  form.add_to_dictionary.BackColor = marker.lemmaColour;
+  // Behind the write of the lemma, whose Change blanks the category.
+  form.operator_category.Text = marker.category;
+  form.Frame1.Enabled = true;
+  form.Add_to_global_dict.Enabled = true;
+  form.Add_to_spec_dict.Enabled = true;
+  marker.box.SetFocus();
+  // Where the box held text, its Change disables the two dictionary buttons again.
+  marker.box.Text = U"";
+  form.RichTextBox1.SetFocus();
+  marker.set.Enabled = false;
+  marker.define.Enabled = true;
+  marker.defineOther.Enabled = true;
+}
+
+void Reject(Form1& form, const Marker& marker) {
+  marker.box.SetFocus();
+  marker.box.Text = U"";
+  form.RichTextBox1.SetFocus();
+  form.RichTextBox1.SelColor = RGB(0, 0, 0);
+  form.RichTextBox1.SelBold = false;
+  marker.set.Enabled = false;
+  marker.define.Enabled = true;
+  marker.defineOther.Enabled = true;
+  if (marker.rejectClosesFrame1) form.Frame1.Enabled = false;
+  form.Add_to_global_dict.Enabled = false;
+  form.Add_to_spec_dict.Enabled = false;
+  form.add_to_dictionary.BackColor = RGB(255, 255, 255);
+  // Where the box held anything else, its Change opens Frame1 again.
+  form.add_to_dictionary.Text = U" ";
+}
+
+// While a term is being typed, nothing can be added to a dictionary.
+void TermChanged(Form1& form) {
+  form.Add_to_global_dict.Enabled = false;
+  form.Add_to_spec_dict.Enabled = false;
+}
+
+}  // namespace
+
+void DefAMarker_Click(Form1& form) { Define(form, MarkerA(form)); }
+void DefBMarker_Click(Form1& form) { Define(form, MarkerB(form)); }
+
+void AMarkSet_Click(Form1& form) { Set(form, MarkerA(form)); }
+void BMarkSet_Click(Form1& form) { Set(form, MarkerB(form)); }
+
+void AMarkReject_Click(Form1& form) { Reject(form, MarkerA(form)); }
+void BMarkReject_Click(Form1& form) { Reject(form, MarkerB(form)); }
+
+void AMarkedString_Change(Form1& form) { TermChanged(form); }
+void BMarkedString_Change(Form1& form) { TermChanged(form); }
+
+}  // namespace quill

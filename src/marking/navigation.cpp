@@ -1,0 +1,98 @@
+#include "marking/navigation.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "tags/tag_editor.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// Moves ScanPos on, one character at a time, while it is below TextLen, up to the first character
+// that is wanted. What was looked at last stays selected; with nothing looked at, the selection
+// stays. `find` gives the first wanted position from its argument on, the text's length for none,
+// so that a walk over a long text costs one look at the surface and not one a character.
+template <class Find>
+bool ScanTo(Form1& form, Find find) {
+  TextSurface& text = form.RichTextBox1;
+  const double scan = form.WorkState.ScanPos.Number();
+  if (!(scan < form.WorkState.TextLen.Number())) return false;
+  const Position found = find(static_cast<Position>(std::max(scan, 0.0)));
+  // TagEnd may come from what a user typed into EndPosition: steps of one keep its fraction.
+  const double fraction = std::isfinite(scan) ? scan - std::floor(scan) : 0;
+  form.WorkState.ScanPos = static_cast<double>(found) + fraction;
+  text.SelStart = std::min(found, text.Length() - 1);
+  text.SelLength = 1;
+  return found < text.Length();
+}
+
+bool FindStart(Form1& form, Colour colour) {
+  TextSurface& text = form.RichTextBox1;
+  if (!ScanTo(form, [&](Position from) { return text.FindColour(from, colour); })) return false;
+  const Position start = text.SelStart + 1;
+  form.StartPosition.Text = DecimalText(static_cast<double>(start));
+  form.WorkState.TagStart = start;
+  form.WorkState.ScanPos = start + 1;
+  text.SelStart = start + 1;
+  return true;
+}
+
+bool FindEnd(Form1& form, Colour colour) {
+  TextSurface& text = form.RichTextBox1;
+  if (!ScanTo(form, [&](Position from) { return text.FindOtherColour(from, colour); })) {
+    return false;
+  }
+  const Position end = text.SelStart;
+  form.EndPosition.Text = DecimalText(static_cast<double>(end));
+  form.WorkState.TagEnd = end;
+  return true;
+}
+
+void ShowRun(Form1& form) {
+  TextSurface& text = form.RichTextBox1;
+  text.SelectSpan(form.WorkState.TagStart.Number(), form.WorkState.TagEnd.Number());
+  form.marked_term.Text = text.SelText();
+  text.SelUnderline = true;
+  text.SetFocus();
+}
+
+}  // namespace
+
+void FindAMarker_Click(Form1& form) {
+  form.WorkState.MarkerColor = RGB(0, 0, 255);
+  ResetTagEditor(form);
+  FindNextMarker(form);
+}
+
+void FindBMarker_Click(Form1& form) {
+  form.WorkState.MarkerColor = RGB(255, 0, 0);
+  ResetTagEditor(form);
+  FindNextMarker(form);
+}
+
+void Restart_PP_Click(Form1& form) {
+  ResetTagEditor(form);
+  form.RichTextBox1.SelStart = 1;
+  form.WorkState.TagEnd = 1;
+  ApplyTagEditorRules(form);
+}
+
+void FindNextMarker(Form1& form) {
+  form.TaggedString.Text = U" ";
+  ClearUnderlines(form);
+  form.WorkState.ScanPos = form.WorkState.TagEnd + 1;
+  form.WorkState.TextLen = form.RichTextBox1.Length();
+  const auto colour = static_cast<Colour>(form.WorkState.MarkerColor.Number());
+  if (FindStart(form, colour) && FindEnd(form, colour)) ShowRun(form);
+  ApplyTagEditorRules(form);
+}
+
+void ClearUnderlines(Form1& form) {
+  form.RichTextBox1.SelStart = 1;
+  form.RichTextBox1.SelLength = form.RichTextBox1.Length();
+  form.RichTextBox1.SelUnderline = false;
+  form.RichTextBox1.SelStart = 0;
+}
+
+}  // namespace quill

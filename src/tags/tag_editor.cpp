@@ -1,0 +1,89 @@
+#include "tags/tag_editor.h"
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// Rows of ModeCombo.
+constexpr int kAbsolute = 1;
+constexpr int kRelative = 2;
+
+// Rows are replaced or added, never taken away: the fifth row of the relative types stays behind
+// the four absolute ones.
+void WriteRows(ComboBox& combo, std::initializer_list<std::u32string_view> rows) {
+  int row = 0;
+  for (const std::u32string_view text : rows) combo.SetList(row++, text);
+}
+
+}  // namespace
+
+void ResetTagEditor(Form1& form) {
+  form.TaggedString.Text = U" ";
+  form.marked_term.Text = U" ";
+  form.ID.Text = U"Tag-ID";
+  form.StartPosition.Text = U"Start";
+  form.EndPosition.Text = U"End";
+  form.ClassCombo.Text = U"Class";
+  form.OperatorCombo.Text = U"Operator";
+  form.ModeCombo.Text = U"Mode";
+  form.TypeCombo.Text = U"Type";
+  form.GranCombo.Text = U"Granularity";
+  form.ValBox.Text = U"Value ?";
+  form.TagList.ListIndex = -1;
+  form.RefTagStart.Text = U" ";
+  form.RefTagStop.Text = U" ";
+  form.RefBox.Text = U"Reference Tag";
+  form.Generate_Tag.Enabled = false;
+}
+
+void ApplyTagEditorRules(Form1& form) {
+  form.ClassCombo.Enabled = form.StartPosition.Text != U"Start";
+  // The list's first row is "Class" and a tab: picking it counts as a class chosen.
+  form.OperatorCombo.Enabled = form.ClassCombo.Text != U"Class";
+  form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(0);
+  form.TypeCombo.Enabled = form.ModeCombo.Text != U"Mode";
+  form.RefFrame.Visible = form.ModeCombo.Text == form.ModeCombo.List(kRelative);
+  if (form.TypeCombo.Text == U"Type") {
+    form.GranCombo.Enabled = false;
+    form.ValBox.Enabled = false;
+  } else {
+    form.GranCombo.Enabled = true;
+    form.ValBox.Enabled = true;
+    form.RefTag.Enabled = !(form.RefFrame.Visible && form.GranCombo.Text == U"Granularity");
+    form.Generate_Tag.Enabled = form.RefFrame.Visible && form.RefBox.Text != U"Reference Tag";
+  }
+  if (form.ModeCombo.Text == form.ModeCombo.List(kAbsolute) && form.ValBox.Text != U"Value ?") {
+    form.Generate_Tag.Enabled = true;
+  }
+}
+
+void ClassCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
+
+void OperatorCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
+
+void ModeCombo_Click(Form1& form) {
+  if (form.ModeCombo.Text == form.ModeCombo.List(kAbsolute)) {
+    form.RefFrame.Visible = false;
+    WriteRows(form.TypeCombo, {U"Type", U"at", U"start", U"finishes"});
+  }
+  if (form.ModeCombo.Text == form.ModeCombo.List(kRelative)) {
+    form.RefFrame.Visible = true;
+    WriteRows(form.TypeCombo, {U"Type", U"before", U"after", U"while", U"same"});
+  }
+  // Before the first pick of a mode the list is empty, and so is its first row.
+  form.TypeCombo.Text = form.TypeCombo.ListCount() > 0 ? form.TypeCombo.List(0) : U"";
+  ApplyTagEditorRules(form);
+}
+
+void TypeCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
+
+void GranCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
+
+void ValBox_Change(Form1& form) { ApplyTagEditorRules(form); }
+
+}  // namespace quill

@@ -1,0 +1,75 @@
+#include "tags/tag_generation.h"
+
+#include "files/text_family.h"
+#include "marking/navigation.h"
+#include "tags/tag_list_file.h"
+#include "tags/tag_record.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// How far above the baseline a tagged term stands, in twips.
+constexpr Twips kRaised = 25;
+
+// Magenta warns of a tag that is not filled in. Three of the five texts are no placeholders of the
+// present form: a tag that shows "Operator", "Mode" or "Value ?" draws no warning.
+void ColourTaggedString(Form1& form) {
+  if (form.OperatorCombo.Text == U"a_operator") form.TaggedString.ForeColor = RGB(0, 0, 255);
+  if (form.OperatorCombo.Text == U"b_operator") form.TaggedString.ForeColor = RGB(255, 0, 0);
+  if (form.ClassCombo.Text == U"Class" || form.OperatorCombo.Text == U"Function" ||
+      form.ModeCombo.Text == U"Order" || form.TypeCombo.Text == U"Type" ||
+      form.ValBox.Text == U"Value?") {
+    form.TaggedString.ForeColor = RGB(255, 0, 255);
+  }
+}
+
+}  // namespace
+
+void Generate_Tag_Click(Form1& form) {
+  if (form.StartPosition.Text == U"Start") return;
+  if (form.EndPosition.Text == U"End") return;
+  if (form.TagList.ListIndex != -1) {
+    form.WorkState.CurrentTag = form.TagList.List(form.TagList.ListIndex);
+    form.TagList.RemoveItem(form.TagList.ListIndex);
+  }
+  AssignNextTagID(form);
+  form.ID.Text = form.WorkState.NextTagID.Text();
+  form.WorkState.GeneratedTag = ComposeTag(form);
+  ColourTaggedString(form);
+  form.TaggedString.Text = form.WorkState.GeneratedTag.Text();
+  ApplyTagToText(form);
+}
+
+void AssignNextTagID(Form1& form) {
+  if (form.TagList.ListCount() == 0) {
+    form.WorkState.NextTagID = 1;
+    return;
+  }
+  CarryOn([&] {
+    const std::u32string& last = form.TagList.List(form.TagList.ListCount() - 1);
+    form.WorkState.NextTagID = CutTagNumber(last) + 1;
+  });
+}
+
+void ApplyTagToText(Form1& form) {
+  form.WorkState.TagStart = Val(form.StartPosition.Text.Get());
+  form.WorkState.TagEnd = Val(form.EndPosition.Text.Get());
+  form.RichTextBox1.SetFocus();
+  form.RichTextBox1.SelectSpan(form.WorkState.TagStart.Number(), form.WorkState.TagEnd.Number());
+  form.RichTextBox1.SelCharOffset = kRaised;
+  form.RichTextBox1.SelBold = false;
+  if (form.OperatorCombo.Text == form.OperatorCombo.List(1)) {
+    form.RichTextBox1.SelColor = RGB(0, 0, 255);
+  } else if (form.OperatorCombo.Text == form.OperatorCombo.List(2)) {
+    form.RichTextBox1.SelColor = RGB(255, 0, 0);
+  }
+  CarryOn([&] { form.TagList.AddItem(form.WorkState.GeneratedTag.Text()); });
+  CarryOn([&] { EnsureTagListFile(form); });
+  CarryOn([&] { AppendGeneratedTag(form); });
+  form.RefFrame.Visible = false;
+  ClearUnderlines(form);
+}
+
+}  // namespace quill

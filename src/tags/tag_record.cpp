@@ -1,0 +1,85 @@
+#include "tags/tag_record.h"
+
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+constexpr std::u32string_view kOpening = U"t_op(";
+constexpr std::u32string_view kSeparator = U"\\ ";
+constexpr std::u32string_view kClosing = U" )";
+constexpr std::size_t kMissing = std::u32string_view::npos;
+
+std::size_t FindFrom(std::u32string_view line, char32_t wanted, std::size_t from) {
+  return from == kMissing ? kMissing : line.find(wanted, from);
+}
+
+std::size_t Behind(std::size_t position) { return position == kMissing ? kMissing : position + 1; }
+
+// The text between two places; empty where either is missing or the end stands before the start.
+std::u32string_view Between(std::u32string_view line, std::size_t start, std::size_t end) {
+  if (end == kMissing || start > end) return {};
+  return line.substr(start, end - start);
+}
+
+}  // namespace
+
+std::u32string ComposeTag(const TagFields& fields) {
+  std::u32string line(kOpening);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (i > 0) line += kSeparator;
+    line += fields[i];
+  }
+  line += kClosing;
+  return line;
+}
+
+std::u32string ComposeTag(const Form1& form) {
+  return ComposeTag(TagFields{
+      form.ID.Text.Get(),
+      form.StartPosition.Text.Get(),
+      form.EndPosition.Text.Get(),
+      form.marked_term.Text.Get(),
+      form.SessionID.Text.Get(),
+      form.UserID1.Text.Get(),
+      form.ClassCombo.Text.Get(),
+      form.OperatorCombo.Text.Get(),
+      form.ModeCombo.Text.Get(),
+      form.TypeCombo.Text.Get(),
+      form.GranCombo.Text.Get(),
+      form.ValBox.Text.Get(),
+      form.RefBox.Text.Get(),
+      form.RefTagStart.Text.Get(),
+      form.RefTagStop.Text.Get(),
+  });
+}
+
+TagFields CutTag(std::u32string_view line) {
+  TagFields fields;
+  std::size_t start = kOpening.size();
+  std::size_t searchFrom = 0;
+  std::size_t closingFrom = kMissing;
+  for (std::size_t i = 0; i < TagField::kRefStop; ++i) {
+    const std::size_t separator = FindFrom(line, U'\\', searchFrom);
+    fields[i] = Between(line, start, separator);
+    closingFrom = searchFrom;
+    searchFrom = Behind(separator);
+    start = separator == kMissing ? kMissing : separator + kSeparator.size();
+  }
+  // The parenthesis is searched behind the last separator but one, so that one that stands in the
+  // last field but one leaves the last field empty.
+  fields[TagField::kRefStop] = Between(line, start, FindFrom(line, U')', closingFrom));
+  return fields;
+}
+
+double CutTagNumber(std::u32string_view line) {
+  const std::size_t opening = line.find(U'(');
+  // Without a parenthesis the text begins at the head of the line.
+  const std::size_t start = opening == kMissing ? 0 : opening + 1;
+  const std::size_t end = line.find(U'\\');
+  if (end == kMissing || start > end) throw StatementFailed("the tag line has no number");
+  return NumberFromDigits(line.substr(start, end - start));
+}
+
+}  // namespace quill

@@ -1,0 +1,200 @@
+// The walk through the marks, against the plain loop that it stands for.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/workbench.h"
+#include "text/unicode.h"
+
+namespace quill::test {
+namespace {
+
+// The walk played on the surface one character at a time.
+struct PlainWalk {
+  Form1& form;
+  Colour wanted;
+
+  void Find() {
+    TextSurface& text = form.RichTextBox1;
+    form.WorkState.MarkerColor = wanted;
+    form.marked_term.Text = U" ";
+    form.StartPosition.Text = U"Start";
+    form.EndPosition.Text = U"End";
+    text.SelStart = 1;
+    text.SelLength = text.Length();
+    text.SelUnderline = false;
+    text.SelStart = 0;
+    double scan = form.WorkState.TagEnd.Number() + 1;
+    const auto length = static_cast<double>(text.Length());
+    form.WorkState.TextLen = length;
+    if (Scan(scan, length, true)) FindEnd(length);
+  }
+
+  bool Scan(double scan, double length, bool equal) {
+    bool found = false;
+    for (; scan < length && !found; scan += found ? 0 : 1) {
+      form.RichTextBox1.SelStart = static_cast<Position>(scan);
+      form.RichTextBox1.SelLength = 1;
+      found = (form.RichTextBox1.SelColor.Get() == wanted) == equal;
+    }
+    form.WorkState.ScanPos = scan;
+    return found;
+  }
+
+  void FindEnd(double length) {
+    TextSurface& text = form.RichTextBox1;
+    const Position start = text.SelStart + 1;
+    form.StartPosition.Text = DecimalText(static_cast<double>(start));
+    form.WorkState.TagStart = start;
+    text.SelStart = start + 1;
+    if (!Scan(static_cast<double>(start) + 1, length, false)) return;
+    const Position end = text.SelStart;
+    form.EndPosition.Text = DecimalText(static_cast<double>(end));
+    form.WorkState.TagEnd = end;
+    text.SelStart = start - 1;
+    text.SelLength = end - (start - 1);
+    form.marked_term.Text = text.SelText();
+    text.SelUnderline = true;
+  }
+};
+
+std::string Outcome(const Form1& form) {
+  std::string outcome = Drawing(form.RichTextBox1);
+  const auto add = [&](std::string_view name, const std::u32string& value) {
+    outcome.append(" ").append(name).append("=").append(ToUtf8(value));
+  };
+  const Range selection = form.RichTextBox1.Selection();
+  add("selection", DecimalText(static_cast<double>(selection.begin)) + U"+" +
+                       DecimalText(static_cast<double>(selection.Length())));
+  form.WorkState.ForEach([&](const char* name, const WorkValue& value) {
+    add(name, value.IsString() ? U"'" + value.Text() + U"'" : value.Text());
+  });
+  add("Start", form.StartPosition.Text);
+  add("End", form.EndPosition.Text);
+  add("term", form.marked_term.Text);
+  return outcome;
+}
+
+WorkValue RandomTagEnd(std::mt19937& random, int length) {
+  const int number = static_cast<int>(random() % static_cast<unsigned>(length + 8)) - 4;
+  switch (random() % 8) {
+    case 0:
+      return {};
+    case 1:
+      return number + 0.25;
+    case 2:
+      return number + 0.5;
+    default:
+      return number;
+  }
+}
+
+TEST(Navigation, DoesWhatThePlainLoopDoes) {
+  std::mt19937 random(20040316);
+  Workbench fast;
+  Workbench plain;
+  for (int round = 0; round < 5000; ++round) {
+    const auto length = static_cast<std::size_t>(random() % 13);
+    const std::string_view inks = round % 3 == 0 ? ".aAbBl_" : round % 3 == 1 ? "aaab." : "ab";
+    std::string drawing;
+    std::u32string characters;
+    for (std::size_t i = 0; i < length; ++i) {
+      drawing += inks[random() % inks.size()];
+      characters += U'p' + static_cast<char32_t>(i);
+    }
+    const WorkValue tagEnd = RandomTagEnd(random, static_cast<int>(length));
+    for (Workbench* bench : {&fast, &plain}) {
+      bench->ShowText(characters, drawing);
+      bench->form.WorkState = {};
+      bench->form.WorkState.TagEnd = tagEnd;
+    }
+    for (int step = 0; step < 3; ++step) {
+      const bool kindA = random() % 2 == 0;
+      fast.program.Click(kindA ? fast.form.FindAMarker : fast.form.FindBMarker);
+      PlainWalk{plain.form, kindA ? RGB(0, 0, 255) : RGB(255, 0, 0)}.Find();
+      ASSERT_EQ(Outcome(fast.form), Outcome(plain.form))
+          << drawing << " from " << ToUtf8(tagEnd.Text()) << ", step " << step;
+    }
+  }
+}
+
+struct Step {
+  char kind;  // 'A', 'B', or 'R' for Restart
+  const char32_t* start;
+  const char32_t* end;
+  const char32_t* term;
+};
+
+struct Walk {
+  const char* about;
+  const char* drawing;  // over the text "abcdefghijkl"
+  std::vector<Step> steps;
+};
+
+TEST(Navigation, FindsRunsWithTheirEdges) {
+  const Walk walks[] = {
+      {"runs one after the other, then the end, again and again",
+       "..aaa..aa...",
+       {{'A', U"3", U"5", U"cde"},
+        {'A', U"8", U"9", U"hi"},
+        {'A', U"Start", U"End", U" "},
+        {'A', U"Start", U"End", U" "}}},
+      {"a run at the first character is found from its second",
+       "aaa.........",
+       {{'A', U"2", U"3", U"bc"}}},
+      {"a single first character is not found", "a...........", {{'A', U"Start", U"End", U" "}}},
+      {"after a restart the walk begins at the third character",
+       ".aaa........",
+       {{'A', U"2", U"4", U"bcd"}, {'R', U"Start", U"End", U" "}, {'A', U"3", U"4", U"cd"}}},
+      {"a run at the text's end has no end, however often it is tried",
+       "..aa.....aaa",
+       {{'A', U"3", U"4", U"cd"}, {'A', U"10", U"End", U" "}, {'A', U"10", U"End", U" "}}},
+      {"a run of one character takes its follower in", "..a.........", {{'A', U"3", U"4", U"cd"}}},
+      {"a run of one character and one further on, with one between, are one",
+       "..a.aa......",
+       {{'A', U"3", U"6", U"cdef"}}},
+      {"longer runs with one character between are two",
+       "..aa.aa.....",
+       {{'A', U"3", U"4", U"cd"}, {'A', U"6", U"7", U"fg"}}},
+      {"the other kind directly behind comes one character short",
+       "..aaabbb....",
+       {{'A', U"3", U"5", U"cde"}, {'B', U"7", U"8", U"gh"}}},
+      {"the kinds share the walk",
+       "..bb..aa....",
+       {{'A', U"7", U"8", U"gh"},
+        {'B', U"Start", U"End", U" "},
+        {'R', U"Start", U"End", U" "},
+        {'B', U"3", U"4", U"cd"}}},
+      {"light blue is no mark", "..ll.aa.....", {{'A', U"6", U"7", U"fg"}}},
+  };
+  for (const Walk& walk : walks) {
+    Workbench bench;
+    bench.ShowText(U"abcdefghijkl", walk.drawing);
+    for (const Step& step : walk.steps) {
+      bench.program.Click(step.kind == 'A'   ? bench.form.FindAMarker
+                          : step.kind == 'B' ? bench.form.FindBMarker
+                                             : bench.form.Restart_PP);
+      EXPECT_TRUE(bench.form.StartPosition.Text == step.start &&
+                  bench.form.EndPosition.Text == step.end &&
+                  bench.form.marked_term.Text == step.term)
+          << walk.about << ": " << Outcome(bench.form);
+    }
+  }
+}
+
+TEST(Navigation, UnderlinesTheTermInFocusAndWipesEveryOtherLineButTheFirstCharacters) {
+  Workbench bench;
+  bench.ShowText(U"abcdefgh", "__.aa_..");
+  bench.program.Click(bench.form.FindAMarker);
+  EXPECT_EQ(Drawing(bench.text), "_..AA...");
+  EXPECT_EQ(bench.text.Selection(), (Range{3, 5}));
+  EXPECT_EQ(bench.form.Focus(), &bench.text);
+  bench.program.Click(bench.form.Restart_PP);
+  EXPECT_EQ(Drawing(bench.text), "_..AA...");
+  bench.program.Click(bench.form.FindBMarker);
+  EXPECT_EQ(Drawing(bench.text), "_..aa...");
+  EXPECT_EQ(bench.text.Selection(), (Range{7, 8}));
+}
+
+}  // namespace
+}  // namespace quill::test
