@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 #include <string>
 #include <vector>
@@ -57,9 +58,12 @@ TEST_F(Surface, ClampsTheSelection) {
 TEST_F(Surface, SelectsTheSpansOfTags) {
   Load("abcdef");
   const std::vector<std::tuple<double, double, std::string>> cases = {
-      {2, 3, "a[bc]def"},     {1, 6, "[abcdef]"},      {0, 3, "[]abcdef"},   {-5, 2, "[]abcdef"},
-      {3, 1, "ab[]cdef"},     {4, 99, "abc[def]"},     {50, 60, "abcdef[]"}, {2.4, 3.4, "a[bc]def"},
-      {1e300, 2, "abcdef[]"}, {2, -1e300, "a[]bcdef"}, {0.6, 2, "[ab]cdef"}};
+      {2, 3, "a[bc]def"},      {1, 6, "[abcdef]"},
+      {0, 3, "[]abcdef"},      {-5, 2, "[]abcdef"},
+      {3, 1, "ab[]cdef"},      {4, 99, "abc[def]"},
+      {50, 60, "abcdef[]"},    {2.4, 3.4, "a[bc]def"},
+      {1e300, 2, "abcdef[]"},  {INFINITY, INFINITY, "abcdef[]"},
+      {2, -1e300, "a[]bcdef"}, {0.6, 2, "[ab]cdef"}};
   for (const auto& [start, end, shown] : cases) {
     text_.SelectSpan(start, end);
     EXPECT_EQ(Shown(), shown) << start << " to " << end;

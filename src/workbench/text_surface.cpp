@@ -75,8 +75,9 @@ void TextSurface::WriteSelLength(Position length) {
 void TextSurface::SelectSpan(double start, double end) {
   // Beyond this no text reaches, and a cast from double is still exact.
   constexpr double kFar = 1e15;
-  const double first = std::round(std::clamp(start, -kFar, kFar));
-  const double length = std::round(std::clamp(end - start, -kFar, kFar)) + 1;
+  const double from = std::clamp(start, -kFar, kFar);
+  const double first = std::round(from);
+  const double length = std::round(std::clamp(end, -kFar, kFar) - from) + 1;
   SelStart = static_cast<Position>(first) - 1;
   SelLength = first < 1 ? 0 : static_cast<Position>(length);
 }
