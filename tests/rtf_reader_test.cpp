@@ -118,8 +118,9 @@ TEST(RtfReader, GivesDirectFormattingAsAttributes) {
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1{\\colortbl\\red9\\green0\\blue0;;\\blue2\\red1}"
                             "\\cf0 a\\cf1 b\\cf2 c}")),
             "<c9>a</>b<c131073>c");
-  // A table behind the first characters.
+  // A table behind the first characters; one behind another.
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\cf1 a{\\colortbl;\\red9;}b}")), "<c9>ab");
+  EXPECT_EQ(Dump(*rtf::Read("{\\rtf1{\\colortbl;\\red9;}\\cf1 a{\\colortbl;\\red8;}b}")), "<c9>ab");
 }
 
 TEST(RtfReader, TakesMalformedFilesAsFarAsTheyGo) {

@@ -9,6 +9,11 @@ namespace {
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+std::size_t BackslashesAtEnd(std::string_view bytes) {
+  const std::size_t last = bytes.find_last_not_of('\\');
+  return last == std::string_view::npos ? bytes.size() : bytes.size() - 1 - last;
+}
+
 // How the bytes end: in the letters of a control word, in its number, or otherwise.
 enum class Ending { kOther, kLetters, kNumber };
 
@@ -23,9 +28,7 @@ Ending EndingOf(std::string_view bytes) {
   const std::size_t lettersEnd = at;
   while (at > 0 && IsLetter(tail[at - 1])) --at;
   if (at == lettersEnd) return Ending::kOther;
-  std::size_t backslashes = 0;
-  while (backslashes < at && tail[at - 1 - backslashes] == '\\') ++backslashes;
-  if (backslashes % 2 == 0) return Ending::kOther;
+  if (BackslashesAtEnd(tail.substr(0, at)) % 2 == 0) return Ending::kOther;
   return number ? Ending::kNumber : Ending::kLetters;
 }
 
@@ -85,7 +88,9 @@ void PatchedCopy::SkipTo(Offset to) {
 
 void PatchedCopy::Append(std::string_view own) {
   if (own.empty()) return;
-  if (NeedsBlank(out_, own.front())) out_ += ' ';
+  // A backslash with which a file breaks off takes a blank, not what is put behind it.
+  const bool dangling = at_ == source_.size() && BackslashesAtEnd(out_) % 2 == 1;
+  if (dangling || NeedsBlank(out_, own.front())) out_ += ' ';
   out_ += own;
   seam_ = true;
 }

@@ -55,6 +55,7 @@ class Reader {
   void SkipGroup();
   void CloseSkipped();
   void CloseGroup();
+  void TakeColourTable();
   void TakeObject(const Token& token);
   void TakePictureForm(const WordEntry& entry, const Token& token);
   bool IsOnlyLineEnds(Offset begin, Offset end) const;
@@ -80,6 +81,7 @@ class Reader {
   bool fallbackBelongs_ = false;  // what is left over belongs to the last character
 
   bool headerEnded_ = false;
+  bool tableFound_ = false;
   bool tableCameLate_ = false;
   Offset tablePlace_ = 0;  // where a colour table can stand
   bool ansiPageGiven_ = false;
@@ -110,6 +112,11 @@ Document Reader::Read() {
 
 // Returns false behind the end of the document's group.
 bool Reader::Take(const Token& token) {
+  if (skipNext_ && token.kind != Token::kIgnored && token.kind != Token::kOpen) {
+    // No group follows, and none may come to follow by a mark on what does.
+    skipNext_ = false;
+    text_.OpenNext();
+  }
   switch (token.kind) {
     case Token::kIgnored:
       return true;
@@ -325,9 +332,7 @@ void Reader::TakeDestination(const WordEntry& entry, const Token& token) {
       SelectFont(tables_.defaultFont, tables_, states_);
       return;
     case Word::kColourTable:
-      tableCameLate_ = tableCameLate_ || text_.Size() > 0;
-      ReadColourTable(lexer_, tables_.colours);
-      CloseSkipped();
+      TakeColourTable();
       return;
     case Word::kExpandedColourTable:
       tables_.colours.expandedEnd = SkipToClose();
@@ -338,6 +343,15 @@ void Reader::TakeDestination(const WordEntry& entry, const Token& token) {
       if (states_.Depth() > 1) SkipGroup();
       return;
   }
+}
+
+// The first table with colours in it is the file's; others are run over.
+void Reader::TakeColourTable() {
+  if (tableFound_) return SkipGroup();
+  ReadColourTable(lexer_, tables_.colours);
+  tableFound_ = !tables_.colours.entries.empty();
+  tableCameLate_ = tableFound_ && text_.Size() > 0;
+  CloseSkipped();
 }
 
 // A picture or an object, with all that its group holds, is one character.

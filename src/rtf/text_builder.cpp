@@ -33,7 +33,7 @@ void TextBuilder::AddBytes(std::string_view bytes, Offset begin) {
   std::size_t at = 0;
   while (at < bytes.size()) {
     const auto here = static_cast<Offset>(begin + at);
-    if (!sequence_.empty() || page.IsSymbol() || !IsAscii(bytes[at])) {
+    if (!sequence_.empty() || nextIsOpen_ || page.IsSymbol() || !IsAscii(bytes[at])) {
       AddByte(static_cast<unsigned char>(bytes[at]), here, here + 1);
       ++at;
       continue;
@@ -134,7 +134,8 @@ void TextBuilder::EndPair() {
 void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind kind) {
   text_ += character;
   formats_.push_back(states_.Format());
-  origins_.push_back({begin, end - begin, kind});
+  origins_.push_back({begin, end - begin, nextIsOpen_ ? Origin::kOpen : kind});
+  nextIsOpen_ = false;
 }
 
 }  // namespace quill::rtf

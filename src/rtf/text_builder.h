@@ -31,6 +31,8 @@ class TextBuilder {
   bool AddUnicode(std::int32_t number, Offset begin, Offset end);
   // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
   void ExtendUnicode(Offset end);
+  // The next character can't be put into a group: a brace in front of it would be misread.
+  void OpenNext() { nextIsOpen_ = true; }
   // The last character reaches to `end`.
   void ExtendLast(Offset end) { origins_.back().length = end - origins_.back().begin; }
 
@@ -61,6 +63,7 @@ class TextBuilder {
   Offset sequenceBegin_ = 0;
   Offset sequenceEnd_ = 0;
 
+  bool nextIsOpen_ = false;
   char32_t highHalf_ = 0;    // of a pair, or 0
   bool pairIsOpen_ = false;  // words stand behind the high half
   Offset pairBegin_ = 0;

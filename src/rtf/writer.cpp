@@ -14,6 +14,7 @@
 #include "rtf/colour_numbers.h"
 #include "rtf/encode.h"
 #include "rtf/patched_copy.h"
+#include "text/unicode.h"
 
 namespace quill::rtf {
 namespace {
@@ -58,6 +59,7 @@ class Writer {
   void NumberColours();
   std::vector<Patch> Patches() const;
 
+  bool KeepsPartsApart(const MarkGroup& group) const;
   template <class Visitor>
   void Walk(const Tree& tree, Visitor&& visitor) const;
   std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
@@ -67,6 +69,7 @@ class Writer {
   std::string Words(const Attributes& from, const Attributes& to, bool rightToLeft);
   void OpenWrap(std::size_t character, const Attributes& inForce);
   void CloseWrap();
+  void AppendBehind(std::size_t characters, std::string_view own);
 
   const Document& document_;
   const Source& source_;
@@ -84,6 +87,7 @@ class Writer {
     Attributes inForce;
     Attributes target;
     bool rightToLeft = false;
+    std::size_t end = 0;  // behind its last character
   };
   Wrap wrap_;
 };
@@ -185,6 +189,16 @@ std::vector<Patch> Writer::Patches() const {
   return patches;
 }
 
+// Whether without the group's braces two broken characters, halves of a pair or of a sequence of
+// bytes, could become a whole one.
+bool Writer::KeepsPartsApart(const MarkGroup& group) const {
+  const Span inside = CharactersOf(group);
+  const std::u32string& text = document_.Text();
+  const auto broken = [&](std::size_t at) { return at < text.size() && text[at] == kReplacement; };
+  return broken(inside.begin) || broken(inside.begin - 1) || broken(inside.end) ||
+         broken(inside.end - 1);
+}
+
 // Visits the braces of a tree's groups and the characters between them in the order of the file.
 template <class Visitor>
 void Writer::Walk(const Tree& tree, Visitor&& visitor) const {
@@ -243,9 +257,10 @@ void Writer::EmitTree(const Tree& tree) {
       const Attributes outside = inForce.back();
       const Attributes inside = Changed(outside, group.words);
       const std::vector<FormatId>& formats = direct[index - tree.first];
-      const bool keep = inside != outside &&
-                        std::any_of(formats.begin(), formats.end(),
-                                    [&](FormatId id) { return writer.targets_[id] == inside; });
+      const bool wanted = std::any_of(formats.begin(), formats.end(), [&](FormatId id) {
+        return writer.targets_[id] == inside;
+      });
+      const bool keep = (inside != outside && wanted) || writer.KeepsPartsApart(group);
       writer.CloseWrap();
       writer.out_.CopyTo(group.open);
       if (keep) {
@@ -287,13 +302,14 @@ void Writer::Emit(std::size_t character, const Attributes& inForce) {
   if (target == inForce || goesOn) {
     EmitBytes(character);
   } else if (origin.kind == Origin::kOpen) {
-    out_.Append(Words(inForce, target, rightToLeft));
+    AppendBehind(character, Words(inForce, target, rightToLeft));
     EmitBytes(character);
-    out_.Append(Words(target, inForce, rightToLeft));
+    AppendBehind(character + 1, Words(target, inForce, rightToLeft));
   } else {
     OpenWrap(character, inForce);
     EmitBytes(character);
   }
+  wrap_.end = character + 1;
 }
 
 void Writer::EmitBytes(std::size_t character) {
@@ -328,14 +344,21 @@ std::string Writer::Words(const Attributes& from, const Attributes& to, bool rig
 
 void Writer::OpenWrap(std::size_t character, const Attributes& inForce) {
   wrap_ = {true, inForce, Target(character),
-           document_.Formats()[formatIds_[character]].look.rightToLeft};
-  out_.Append("{" + Words(inForce, wrap_.target, wrap_.rightToLeft));
+           document_.Formats()[formatIds_[character]].look.rightToLeft, character};
+  AppendBehind(character, "{" + Words(inForce, wrap_.target, wrap_.rightToLeft));
 }
 
 void Writer::CloseWrap() {
   if (!wrap_.open) return;
   wrap_.open = false;
-  out_.Append("}");
+  AppendBehind(wrap_.end, "}");
+}
+
+// Appends words of our own behind so many characters. The first byte of a broken sequence would
+// take a brace or backslash for its second one; a line end, which is nothing, stands between.
+void Writer::AppendBehind(std::size_t characters, std::string_view own) {
+  if (characters > 0 && document_.Text()[characters - 1] == kReplacement) out_.Append("\n");
+  out_.Append(own);
 }
 
 }  // namespace
