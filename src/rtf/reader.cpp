@@ -78,6 +78,7 @@ class Reader {
   bool skipNext_ = false;     // the next group gives way to the one behind it
   bool ended_ = false;        // the document's own group is closed
   std::uint32_t fallbackLeft_ = 0;
+  bool braceIsNeeded_ = false;    // the next brace ends what stands in for a \u
   bool fallbackBelongs_ = false;  // what is left over belongs to the last character
 
   bool headerEnded_ = false;
@@ -155,6 +156,7 @@ bool Reader::TakeAsFallback(const Token& token) {
   if (token.kind == Token::kIgnored) return true;
   if (token.kind == Token::kOpen || token.kind == Token::kClose) {
     fallbackLeft_ = 0;
+    braceIsNeeded_ = true;
     return false;
   }
   Offset end = token.end;
@@ -399,6 +401,7 @@ void Reader::Open(const Token& token) {
     return;
   }
   marks_.Open(token.begin, states_.Now().attributes);
+  if (std::exchange(braceIsNeeded_, false)) marks_.Other();
   states_.Open();
   groupOpen_ = token.begin;
   atHead_ = true;
@@ -409,6 +412,7 @@ bool Reader::Close(const Token& token) {
   text_.Flush();
   atHead_ = false;
   starred_ = false;
+  if (std::exchange(braceIsNeeded_, false)) marks_.Other();
   marks_.Close(token.begin);
   // What is in force at the document's end stays, for what is typed there.
   if (states_.Depth() > 1) return states_.Close();

@@ -1,0 +1,141 @@
+#include "window/appearance.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+namespace quill {
+namespace {
+
+constexpr int kControlPixels = 11;
+constexpr int kMenuPixels = 12;
+constexpr int kSmallestPixels = 9;
+
+const QColor kDesk(0xf0, 0xf1, 0xf3);
+const QColor kDisabledText(0x84, 0x88, 0x8f);
+
+QColor OfSystem(Colour number) {
+  switch (number) {
+    case kMenuBarColour:
+      return kDesk;
+    case kWindowBackground:
+      return Qt::white;
+    case kWindowText:
+      return Qt::black;
+    case kActiveBorder:
+      return {0xe4, 0xe8, 0xee};
+    case kInactiveBorder:
+      return {0xe6, 0xec, 0xf4};
+    case kLightEdge:
+      return {0xe9, 0xee, 0xf3};
+    case kToolTipBackground:
+      return {0xff, 0xfc, 0xe8};
+    default:
+      return kDesk;
+  }
+}
+
+// Relative luminance, for contrasts.
+double Luminance(const QColor& colour) {
+  const auto linear = [](double c) {
+    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+QPalette LightPalette() {
+  QPalette palette(QColor(0xfa, 0xfa, 0xfb), kDesk);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::BrightText, Qt::white);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(0xf6, 0xf7, 0xf9));
+  palette.setColor(QPalette::ToolTipBase, OfSystem(kToolTipBackground));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb7));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(0x1a, 0x5f, 0xb4));
+  palette.setColor(QPalette::LinkVisited, QColor(0x81, 0x3d, 0x9c));
+  palette.setColor(QPalette::PlaceholderText, kDisabledText);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, kDisabledText);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xf4, 0xf5, 0xf6));
+  return palette;
+}
+
+}  // namespace
+
+QColor ToQColor(Colour colour) {
+  if (IsSystemColour(colour)) return OfSystem(colour);
+  return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8U & 0xFF),
+          static_cast<int>(colour >> 16U & 0xFF)};
+}
+
+Colour FromQColor(const QColor& colour) {
+  return RGB(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+             static_cast<unsigned>(colour.blue()));
+}
+
+QColor TextOn(const QColor& background) {
+  // Bold white keeps its legibility down to about this contrast, and looks better on pure red.
+  constexpr double kEnough = 3.9;
+  const double contrastOfWhite = 1.05 / (Luminance(background) + 0.05);
+  return contrastOfWhite >= kEnough ? Qt::white : Qt::black;
+}
+
+QColor BackgroundOf(const CatalogueRow& row) {
+  const bool hasOwn = row.kind == Kind::kTextBox || row.kind == Kind::kComboBox ||
+                      row.kind == Kind::kListBox || row.kind == Kind::kRichText;
+  if (row.stored.backColor == kWindowBackground && !hasOwn) return kDesk;
+  return ToQColor(row.stored.backColor);
+}
+
+void SetLook(QApplication& application) {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(LightPalette());
+  application.setStyleSheet(QString());
+  QFont font = ControlFont(0, false);
+  font.setPixelSize(kMenuPixels);
+  QApplication::setFont(font);
+}
+
+QFont ControlFont(double points, bool bold) {
+  constexpr double kPixelsPerPoint = 96.0 / 72.0;
+  QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+  const int pixels = points > 0 ? static_cast<int>(std::lround(points * kPixelsPerPoint)) : 0;
+  font.setPixelSize(pixels > 0 ? pixels : kControlPixels);
+  font.setBold(bold);
+  return font;
+}
+
+QFont FittingFont(QFont font, const QString& text, QSize room) {
+  for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
+    font.setPixelSize(pixels);
+    const QRect needed = QFontMetrics(font).boundingRect(QRect({0, 0}, room),
+                                                         Qt::AlignLeft | Qt::TextWordWrap, text);
+    if (needed.width() <= room.width() && needed.height() <= room.height()) return font;
+  }
+  font.setPixelSize(kSmallestPixels);
+  return font;
+}
+
+void SetColours(QWidget& widget, const QColor& background, const QColor& text) {
+  QPalette palette = widget.palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Base, background);
+    palette.setColor(group, QPalette::Window, background);
+    palette.setColor(group, QPalette::Text, text);
+    palette.setColor(group, QPalette::WindowText, text);
+  }
+  widget.setPalette(palette);
+}
+
+}  // namespace quill

@@ -1,0 +1,171 @@
+#include "window/document_binder.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
+#include <utility>
+
+#include "text/unicode.h"
+#include "window/appearance.h"
+#include "window/shown.h"
+
+namespace quill {
+namespace {
+
+// Far changes in one edit of the widget lay out all that stands between; many edits take their
+// time one by one.
+constexpr std::size_t kMostSingleEdits = 50;
+
+std::unique_ptr<QTextDocument> EmptyDocument(const QFont& font) {
+  auto document = std::make_unique<QTextDocument>();
+  document->setUndoRedoEnabled(false);
+  document->setDefaultFont(font);
+  document->setDocumentMargin(8);
+  return document;
+}
+
+// A stretch of one format.
+struct Piece {
+  Range range;
+  FormatId format;
+};
+
+// Splits a range where the format changes.
+std::vector<Piece> PiecesOf(const Document& document, Range range) {
+  std::vector<Piece> pieces;
+  const std::vector<FormatId>& ids = document.FormatIds();
+  Position at = range.begin;
+  while (at < range.end) {
+    const auto first = ids.begin() + at;
+    const auto last =
+        std::find_if(first, ids.begin() + range.end, [&](FormatId id) { return id != *first; });
+    const Position end = last - ids.begin();
+    pieces.push_back({{at, end}, *first});
+    at = end;
+  }
+  return pieces;
+}
+
+}  // namespace
+
+DocumentBinder::DocumentBinder(TextSurface& text, QWidget& container, Actions& actions)
+    : DocumentBinder(text, *new DocumentView(container, text, actions), actions) {}
+
+DocumentBinder::DocumentBinder(TextSurface& text, DocumentView& view, Actions& actions)
+    : WidgetBinder(text, view, actions), text_(text), view_(view) {
+  SetColours(view, BackgroundOf(text.Row()), Qt::black);
+  changes_.Load();
+}
+
+void DocumentBinder::Show() {
+  WidgetBinder::Show();
+  const TextChanges changes = std::exchange(changes_, {});
+  if (changes.loaded) {
+    ShowWhole();
+  } else {
+    if (changes.edited) ShowEdit(changes.edit);
+    ShowFormats(changes.MergedFormats(text_.Length()));
+  }
+  if (std::exchange(selectionMoved_, false) || changes.loaded || changes.edited) {
+    ShowSelection(changes.edited);
+  }
+}
+
+FormatId DocumentBinder::ParagraphFormat(Position position) const {
+  const std::u32string& text = text_.Text();
+  if (text.empty()) return 0;
+  const std::size_t end = text.find(kParagraphEnd, static_cast<std::size_t>(position));
+  return text_.Doc().FormatIds()[std::min(end, text.size() - 1)];
+}
+
+void DocumentBinder::ShowWhole() {
+  styles_.Use(text_.Doc());
+  view_.Positions().Load(text_.Text());
+  std::unique_ptr<QTextDocument> document = EmptyDocument(view_.font());
+  QTextCursor cursor(document.get());
+  cursor.beginEditBlock();
+  const FormatId first = ParagraphFormat(0);
+  cursor.setBlockFormat(styles_.Paragraph(first));
+  cursor.setBlockCharFormat(styles_.Character(first));
+  Insert(cursor, {0, text_.Length()});
+  cursor.endEditBlock();
+  view_.Exchange(std::move(document));
+}
+
+std::u32string_view DocumentBinder::Part(Range range) const {
+  return std::u32string_view(text_.Text())
+      .substr(static_cast<std::size_t>(range.begin), static_cast<std::size_t>(range.Length()));
+}
+
+void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
+  for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
+    const std::u32string shown = ShownText(Part(piece.range));
+    const QTextCharFormat style = styles_.Character(piece.format);
+    std::size_t line = 0;
+    for (;;) {
+      const std::size_t end = std::min(shown.find(kParagraphEnd, line), shown.size());
+      if (end > line)
+        cursor.insertText(ToQt(std::u32string_view(shown).substr(line, end - line)), style);
+      if (end == shown.size()) break;
+      line = end + 1;
+      const FormatId next = ParagraphFormat(piece.range.begin + static_cast<Position>(line));
+      cursor.insertBlock(styles_.Paragraph(next), styles_.Character(next));
+    }
+  }
+}
+
+void DocumentBinder::ShowEdit(const TextChanges::Edit& edit) {
+  // The cursor first: it still counts what was shown.
+  QTextCursor cursor = view_.CursorAt({edit.at, edit.at + edit.removed});
+  const Range inserted{edit.at, edit.at + edit.inserted};
+  view_.Positions().Replace(edit.at, edit.removed, Part(inserted));
+  cursor.beginEditBlock();
+  cursor.removeSelectedText();
+  Insert(cursor, inserted);
+  ShowParagraphs(inserted);
+  cursor.endEditBlock();
+}
+
+void DocumentBinder::ShowParagraphs(Range range) {
+  QTextCursor cursor = view_.CursorAt({range.begin, range.begin});
+  const QTextBlock last = view_.document()->findBlock(view_.Positions().ToWidget(range.end)).next();
+  for (QTextBlock block = cursor.block(); block.isValid() && block != last; block = block.next()) {
+    const QTextBlockFormat& style =
+        styles_.Paragraph(ParagraphFormat(view_.Positions().ToModel(block.position())));
+    if (block.blockFormat() != style) QTextCursor(block).setBlockFormat(style);
+  }
+}
+
+void DocumentBinder::ShowFormats(const std::vector<Range>& ranges) {
+  std::vector<Piece> pieces;
+  for (const Range& range : ranges) {
+    const std::vector<Piece> its = PiecesOf(text_.Doc(), range);
+    pieces.insert(pieces.end(), its.begin(), its.end());
+  }
+  QTextCursor whole(view_.document());
+  const bool together = pieces.size() > kMostSingleEdits;
+  if (together) whole.beginEditBlock();
+  for (const Piece& piece : pieces) {
+    view_.CursorAt(piece.range).setCharFormat(styles_.Character(piece.format));
+  }
+  if (together) whole.endEditBlock();
+}
+
+void DocumentBinder::ShowSelection(bool edited) {
+  const Range range = text_.Selection();
+  const QTextCursor wanted = view_.CursorAt(range);
+  const QTextCursor shown = view_.textCursor();
+  const bool same = shown.selectionStart() == wanted.selectionStart() &&
+                    shown.selectionEnd() == wanted.selectionEnd();
+  // A selection that the user just made stays as it is, with its direction.
+  if (!same) view_.setTextCursor(wanted);
+  if (edited) {
+    view_.ensureCursorVisible();
+  } else if (!same) {
+    view_.Reveal(range);
+  }
+  view_.viewport()->update();
+}
+
+}  // namespace quill

@@ -1,0 +1,49 @@
+// The text and its widget: shows what changed in the document, and only that.
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "window/binder.h"
+#include "window/document_view.h"
+#include "window/text_changes.h"
+#include "window/text_styles.h"
+
+class QTextCursor;
+class QTextDocument;
+
+namespace quill {
+
+class DocumentBinder final : public WidgetBinder {
+ public:
+  DocumentBinder(TextSurface& text, QWidget& container, Actions& actions);
+
+  // Where the window's watcher puts what it is told.
+  TextChanges& Changes() { return changes_; }
+  void SelectionMoved() { selectionMoved_ = true; }
+
+  void Show() override;
+
+ private:
+  DocumentBinder(TextSurface& text, DocumentView& view, Actions& actions);
+
+  void ShowWhole();
+  void ShowEdit(const TextChanges::Edit& edit);
+  void ShowFormats(const std::vector<Range>& ranges);
+  void ShowParagraphs(Range range);
+  void ShowSelection(bool edited);
+  std::u32string_view Part(Range range) const;
+  // Inserts a range of the text at the cursor.
+  void Insert(QTextCursor& cursor, Range range);
+  // The format that tells how the paragraph that holds a position looks: that of its end.
+  FormatId ParagraphFormat(Position position) const;
+
+  TextSurface& text_;
+  DocumentView& view_;
+  TextChanges changes_;
+  TextStyles styles_;
+  bool selectionMoved_ = false;
+};
+
+}  // namespace quill

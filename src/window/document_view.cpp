@@ -1,0 +1,311 @@
+#include "window/document_view.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QPainter>
+#include <QPointer>
+#include <QScrollBar>
+#include <QStyleHints>
+#include <algorithm>
+
+#include "window/shown.h"
+
+namespace quill {
+namespace {
+
+// Under the highlight the marks keep their own colours: they are what the user looks at.
+const QColor kHighlight(0xbf, 0xdb, 0xfa);
+const QColor kHighlightWithoutFocus(0xd5, 0xe2, 0xf0);
+
+constexpr QKeySequence::StandardKey kMovements[] = {
+    QKeySequence::MoveToNextChar,        QKeySequence::MoveToPreviousChar,
+    QKeySequence::MoveToNextWord,        QKeySequence::MoveToPreviousWord,
+    QKeySequence::MoveToNextLine,        QKeySequence::MoveToPreviousLine,
+    QKeySequence::MoveToNextPage,        QKeySequence::MoveToPreviousPage,
+    QKeySequence::MoveToStartOfLine,     QKeySequence::MoveToEndOfLine,
+    QKeySequence::MoveToStartOfBlock,    QKeySequence::MoveToEndOfBlock,
+    QKeySequence::MoveToStartOfDocument, QKeySequence::MoveToEndOfDocument,
+    QKeySequence::SelectNextChar,        QKeySequence::SelectPreviousChar,
+    QKeySequence::SelectNextWord,        QKeySequence::SelectPreviousWord,
+    QKeySequence::SelectNextLine,        QKeySequence::SelectPreviousLine,
+    QKeySequence::SelectNextPage,        QKeySequence::SelectPreviousPage,
+    QKeySequence::SelectStartOfLine,     QKeySequence::SelectEndOfLine,
+    QKeySequence::SelectStartOfBlock,    QKeySequence::SelectEndOfBlock,
+    QKeySequence::SelectStartOfDocument, QKeySequence::SelectEndOfDocument,
+};
+
+// Whether a key stands for its text, and not for a command.
+bool IsTyping(const QKeyEvent& event) {
+  const QString text = event.text();
+  if (text.isEmpty()) return false;
+  const QChar first = text[0];
+  if (first.category() == QChar::Other_Format) return true;
+  const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::ControlModifier || modifiers.testFlag(Qt::MetaModifier) ||
+      modifiers == (Qt::ControlModifier | Qt::ShiftModifier) || modifiers == Qt::AltModifier) {
+    return false;
+  }
+  return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_PrivateUse;
+}
+
+}  // namespace
+
+DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
+    : QTextEdit(&parent), text_(text), actions_(actions) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  viewport()->setCursor(Qt::IBeamCursor);
+  viewport()->setAcceptDrops(true);
+  setAcceptDrops(true);
+  setTabChangesFocus(true);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
+  // The first one belongs to the toolkit, which deletes it by itself.
+  const QPointer<QTextDocument> old = this->document();
+  document->setParent(this);
+  setDocument(document.release());
+  preeditCaret_ = -1;
+  delete old.data();
+}
+
+QTextCursor DocumentView::CursorAt(Range range) const {
+  QTextCursor cursor(document());
+  cursor.setPosition(positions_.ToWidget(range.begin));
+  cursor.setPosition(positions_.ToWidget(range.end), QTextCursor::KeepAnchor);
+  return cursor;
+}
+
+void DocumentView::Reveal(Range range) {
+  const QRect first = cursorRect(CursorAt({range.begin, range.begin}));
+  const QRect last = cursorRect(CursorAt({range.end, range.end}));
+  const int height = viewport()->height();
+  const int around = std::min(3 * first.height(), height / 4);
+  QScrollBar& bar = *verticalScrollBar();
+  const bool above = first.top() < around && bar.value() > 0;
+  const bool below = std::min(last.bottom(), first.top() + height / 2) > height - around;
+  if (above || below) bar.setValue(bar.value() + first.top() - height / 3);
+}
+
+// --- Painting --------------------------------------------------------------------------------
+
+void DocumentView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  const QPoint offset(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  painter.translate(-offset);
+  const QRect clip = event->rect().translated(offset);
+  painter.setClipRect(clip);
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.clip = clip;
+  context.palette = palette();
+  context.cursorPosition = CaretPosition();
+  if (textCursor().hasSelection()) {
+    QAbstractTextDocumentLayout::Selection selection;
+    selection.cursor = textCursor();
+    selection.format.setBackground(hasFocus() ? kHighlight : kHighlightWithoutFocus);
+    context.selections.append(selection);
+  }
+  document()->documentLayout()->draw(&painter, context);
+}
+
+int DocumentView::CaretPosition() const {
+  if (!caretOn_ || !hasFocus()) return -1;
+  // The layout's way to say: inside the preedit text.
+  if (preeditCaret_ >= 0) return -(preeditCaret_ + 2);
+  return textCursor().position();
+}
+
+void DocumentView::RestartCaret() {
+  caretOn_ = hasFocus();
+  blink_.stop();
+  const int period = QGuiApplication::styleHints()->cursorFlashTime();
+  if (caretOn_ && period > 1) blink_.start(period / 2, this);
+  viewport()->update();
+}
+
+void DocumentView::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != blink_.timerId()) {
+    QTextEdit::timerEvent(event);
+    return;
+  }
+  caretOn_ = !caretOn_;
+  viewport()->update(cursorRect().adjusted(-2, -2, 2, 2));
+}
+
+void DocumentView::focusInEvent(QFocusEvent* event) {
+  QTextEdit::focusInEvent(event);
+  RestartCaret();
+}
+
+void DocumentView::focusOutEvent(QFocusEvent* event) {
+  QTextEdit::focusOutEvent(event);
+  RestartCaret();
+}
+
+// --- Selecting -------------------------------------------------------------------------------
+
+void DocumentView::ReportSelection() {
+  const QTextCursor cursor = textCursor();
+  const Position begin = positions_.ToModel(cursor.selectionStart());
+  const Position end = positions_.ToModel(cursor.selectionEnd());
+  actions_.Do([&](Program& program) { program.Select(begin, end - begin); });
+  RestartCaret();
+}
+
+void DocumentView::SelectEverything() {
+  selectAll();
+  ReportSelection();
+}
+
+void DocumentView::mouseReleaseEvent(QMouseEvent* event) {
+  QTextEdit::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) {
+    ReportSelection();
+  } else if (event->button() == Qt::MiddleButton &&
+             QGuiApplication::clipboard()->supportsSelection()) {
+    const QString text = PlainText(*QGuiApplication::clipboard()->mimeData(QClipboard::Selection));
+    setTextCursor(cursorForPosition(event->position().toPoint()));
+    ReportSelection();
+    Type(text);
+  }
+}
+
+void DocumentView::wheelEvent(QWheelEvent* event) {
+  // The toolkit's zoom would change the fonts that the text was given.
+  if (event->modifiers().testFlag(Qt::ControlModifier)) {
+    event->ignore();
+  } else {
+    QTextEdit::wheelEvent(event);
+  }
+}
+
+// --- Editing ---------------------------------------------------------------------------------
+
+void DocumentView::keyPressEvent(QKeyEvent* event) {
+  if (IsMovement(event)) {
+    QTextEdit::keyPressEvent(event);
+    ReportSelection();
+  } else if (EditKey(event)) {
+    event->accept();
+  } else if (IsTyping(*event)) {
+    Type(event->text());
+  } else {
+    event->ignore();
+  }
+}
+
+bool DocumentView::IsMovement(QKeyEvent* event) const {
+  return std::any_of(std::begin(kMovements), std::end(kMovements),
+                     [&](QKeySequence::StandardKey key) { return event->matches(key); });
+}
+
+bool DocumentView::EditKey(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->matches(QKeySequence::Undo)) {
+    Undo();
+  } else if (event->matches(QKeySequence::Redo)) {
+    Redo();
+  } else if (event->matches(QKeySequence::Cut)) {
+    Cut();
+  } else if (event->matches(QKeySequence::Copy)) {
+    copy();
+  } else if (event->matches(QKeySequence::Paste)) {
+    Paste();
+  } else if (event->matches(QKeySequence::SelectAll)) {
+    SelectEverything();
+  } else if (event->matches(QKeySequence::Delete)) {
+    Delete(QTextCursor::NextCharacter);
+  } else if (event->matches(QKeySequence::DeleteEndOfWord)) {
+    Delete(QTextCursor::NextWord);
+  } else if (event->matches(QKeySequence::DeleteStartOfWord)) {
+    Delete(QTextCursor::PreviousWord);
+  } else if (event->key() == Qt::Key_Backspace &&
+             (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier) {
+    Delete(QTextCursor::PreviousCharacter);
+  } else if (enter && event->modifiers() == Qt::ShiftModifier) {
+    Type(QString(QChar::LineSeparator));
+  } else if (enter) {
+    Type(QStringLiteral("\n"));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void DocumentView::Type(const QString& text) {
+  if (text.isEmpty()) return;
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.TypeInText(FromQt(text));
+  });
+  RestartCaret();
+}
+
+void DocumentView::Delete(QTextCursor::MoveOperation operation) {
+  Range range = text_.Selection();
+  if (range.Length() == 0) {
+    if (operation == QTextCursor::PreviousCharacter) {
+      // One character, where a caret passes a letter with its accents at once.
+      range.begin = std::max<Position>(range.begin - 1, 0);
+    } else {
+      QTextCursor cursor = CursorAt(range);
+      cursor.movePosition(operation, QTextCursor::KeepAnchor);
+      range = {positions_.ToModel(cursor.selectionStart()),
+               positions_.ToModel(cursor.selectionEnd())};
+    }
+  }
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.DeleteInText(range);
+  });
+  RestartCaret();
+}
+
+void DocumentView::DeleteSelection() {
+  if (text_.Selection().Length() > 0) Delete(QTextCursor::NextCharacter);
+}
+
+void DocumentView::Undo() {
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.UndoInText();
+  });
+}
+
+void DocumentView::Redo() {
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.RedoInText();
+  });
+}
+
+void DocumentView::Cut() {
+  copy();
+  DeleteSelection();
+}
+
+void DocumentView::Paste() {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  if (data != nullptr) insertFromMimeData(data);
+}
+
+QMimeData* DocumentView::createMimeDataFromSelection() const {
+  const QTextCursor cursor = textCursor();
+  const auto begin = static_cast<std::size_t>(positions_.ToModel(cursor.selectionStart()));
+  const auto end = static_cast<std::size_t>(positions_.ToModel(cursor.selectionEnd()));
+  auto* const data = new QMimeData;
+  data->setText(ToQt(std::u32string_view(text_.Text()).substr(begin, end - begin)));
+  return data;
+}
+
+bool DocumentView::canInsertFromMimeData(const QMimeData* source) const {
+  return source->hasText();
+}
+
+void DocumentView::insertFromMimeData(const QMimeData* source) { Type(PlainText(*source)); }
+
+}  // namespace quill

@@ -1,0 +1,77 @@
+// The widget of the text. It shows a document and moves caret and selection; every change of
+// characters goes to the program and comes back from it. Therefore it is read-only to the toolkit,
+// which knows too many ways around: drops, pastes, input methods, its own undo.
+#pragma once
+
+#include <QBasicTimer>
+#include <QTextEdit>
+#include <memory>
+
+#include "window/actions.h"
+#include "window/position_map.h"
+
+class QMimeData;
+
+namespace quill {
+
+class DocumentView final : public QTextEdit {
+ public:
+  DocumentView(QWidget& parent, TextSurface& text, Actions& actions);
+
+  // Puts another document on show, which the view then owns.
+  void Exchange(std::unique_ptr<QTextDocument> document);
+  PositionMap& Positions() { return positions_; }
+  QTextCursor CursorAt(Range range) const;
+
+  // Scrolls so that a range is seen with some lines around it; nothing where it is seen so.
+  void Reveal(Range range);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery property) const override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  QMimeData* createMimeDataFromSelection() const override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+
+ private:
+  // All of these run one action of the user; the text takes the focus.
+  void ReportSelection();
+  void Type(const QString& text);
+  void Delete(QTextCursor::MoveOperation operation);
+  void DeleteSelection();
+  void Undo();
+  void Redo();
+  void Cut();
+  void Paste();
+  void SelectEverything();
+
+  bool EditKey(QKeyEvent* event);
+  bool IsMovement(QKeyEvent* event) const;
+  void ShowPreedit(const QInputMethodEvent& event);
+  void RestartCaret();
+  int CaretPosition() const;
+  bool IsOwnDrag(const QDropEvent& event) const;
+
+  TextSurface& text_;
+  Actions& actions_;
+  PositionMap positions_;
+  QBasicTimer blink_;
+  bool caretOn_ = false;
+  int preeditCaret_ = -1;  // inside the preedit text; -1 without one
+};
+
+// What of a clipboard or a drop is text to type: no pictures, and paragraphs that end in U+000A.
+QString PlainText(const QMimeData& data);
+
+}  // namespace quill

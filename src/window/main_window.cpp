@@ -1,0 +1,209 @@
+#include "window/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <algorithm>
+#include <map>
+
+#include "window/appearance.h"
+#include "window/layout.h"
+#include "window/menus.h"
+#include "window/names.h"
+#include "window/shown.h"
+
+namespace quill {
+namespace {
+
+// The inside of the window. It takes the focus when no control should have it.
+class Desk : public QWidget {
+ public:
+  Desk(QWidget& parent, std::function<void()> resized)
+      : QWidget(&parent), resized_(std::move(resized)) {
+    setMinimumSize(LeastSize());
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* /*event*/) override { resized_(); }
+
+ private:
+  std::function<void()> resized_;
+};
+
+// As large as stored, or as the screen lets it be.
+QSize FirstSize(const QMainWindow& window) {
+  const QSize frame(8, 40);
+  const QSize room = window.screen()->availableSize() - frame;
+  const QSize stored = StoredSize() + QSize(0, window.menuBar()->sizeHint().height());
+  return stored.boundedTo(room);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Program& program)
+    : form_(program.Form()),
+      actions_(
+          program, [this] { Show(); }, [this] { close(); }),
+      updates_(form_, [this] { Show(); }),
+      desk_(new Desk(*this, [this] { Arrange(); })) {
+  setObjectName(QStringLiteral("Form1"));
+  setCentralWidget(desk_);
+  BuildMenus();
+  BuildControls();
+  StackControls();
+  updates_.ShowAll();
+  Show();
+  desk_->setFocus();
+  QApplication::instance()->installEventFilter(this);
+  resize(FirstSize(*this));
+}
+
+MainWindow::~MainWindow() { QApplication::instance()->removeEventFilter(this); }
+
+void MainWindow::BuildMenus() {
+  menuBar()->setNativeMenuBar(false);
+  for (auto& [item, binder] : FillMenuBar(*menuBar(), form_, actions_)) {
+    updates_.Follow(*item, *binder);
+    binders_.push_back(std::move(binder));
+  }
+}
+
+void MainWindow::BuildControls() {
+  for (Control* const control : form_.Controls()) {
+    if (control->Kind() == Kind::kMenuItem || control->Kind() == Kind::kFileDialog) continue;
+    QWidget& container = WidgetOf(form_.ContainerOf(*control));
+    if (control == &form_.RichTextBox1) {
+      auto text = std::make_unique<DocumentBinder>(form_.RichTextBox1, container, actions_);
+      updates_.FollowText(*text);
+      binders_.push_back(std::move(text));
+    } else {
+      binders_.push_back(MakeBinder(*control, container, actions_));
+      updates_.Follow(*control, *binders_.back());
+    }
+  }
+}
+
+// The catalogue's order is front first.
+void MainWindow::StackControls() {
+  for (auto binder = binders_.rbegin(); binder != binders_.rend(); ++binder) {
+    if ((*binder)->Widget() != nullptr) (*binder)->Widget()->raise();
+  }
+}
+
+QWidget& MainWindow::WidgetOf(const Control& control) const {
+  if (&control == &form_) return *desk_;
+  const QString name =
+      QString::fromLatin1(control.Name().data(), static_cast<qsizetype>(control.Name().size()));
+  return *desk_->findChild<QWidget*>(name);
+}
+
+// --- Following the model ---------------------------------------------------------------------
+
+void MainWindow::Show() {
+  updates_.ShowChanges();
+  if (updates_.TakeWindowChanged()) ShowWindow();
+  if (updates_.TakeFocusMoved()) ShowFocus();
+}
+
+void MainWindow::ShowWindow() {
+  // The toolkit would take "[*]" for a mark of its own.
+  setWindowTitle(ToQt(form_.Caption.Get()).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+  Arrange();
+}
+
+void MainWindow::ShowFocus() {
+  lastFocus_ = form_.Focus();
+  if (!lastFocus_->IsInReach()) return;
+  const QWidget& widget = WidgetOf(*lastFocus_);
+  // A user's own move is done already, down to the place of the caret.
+  if (widget.hasFocus() || widget.isAncestorOf(focusWidget())) return;
+  updates_.BinderOf(*lastFocus_).TakeFocus();
+}
+
+void MainWindow::Arrange() {
+  for (const Control* const control : form_.Controls()) {
+    if (&form_.ContainerOf(*control) != &form_ || control->Kind() == Kind::kMenuItem ||
+        control->Kind() == Kind::kFileDialog) {
+      continue;
+    }
+    WidgetOf(*control).setGeometry(
+        PlaceIn(desk_->size(), control->Row(), form_.User_Dialogue.Visible));
+  }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (actions_.Running()) {
+    event->ignore();
+    return;
+  }
+  actions_.Do([](Program& program) { program.Close(); });
+  event->accept();
+}
+
+// --- Focus -----------------------------------------------------------------------------------
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool press = event->type() == QEvent::MouseButtonPress;
+  if ((!press && event->type() != QEvent::KeyPress) || actions_.Running()) return false;
+  const auto* const widget = qobject_cast<QWidget*>(object);
+  if (widget == nullptr || widget->window() != this) return false;
+  if (press) {
+    UserGoesInto(*widget);
+    return false;
+  }
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  const bool back = key.key() == Qt::Key_Backtab;
+  const bool tab = back || key.key() == Qt::Key_Tab;
+  const Qt::KeyboardModifiers others = key.modifiers() & ~Qt::ShiftModifier;
+  return tab && others == Qt::NoModifier && MoveByTab(!back);
+}
+
+bool MainWindow::focusNextPrevChild(bool /*next*/) {
+  desk_->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+Control* MainWindow::ControlOf(const QWidget* widget) const {
+  for (; widget != nullptr && widget != desk_; widget = widget->parentWidget()) {
+    Control* const control = form_.Find(widget->objectName().toStdString());
+    if (control != nullptr) return control;
+  }
+  return nullptr;
+}
+
+void MainWindow::UserGoesInto(const QWidget& widget) {
+  Control* const control = ControlOf(&widget);
+  if (control == nullptr || WidgetOf(*control).focusPolicy() == Qt::NoFocus) return;
+  lastFocus_ = control;
+  actions_.Do([&](Program& program) { program.GoInto(*control); });
+}
+
+bool MainWindow::IsTabStop(const Control& control) const {
+  if (!control.IsInReach() || !control.Row().stored.tabStop) return false;
+  const QWidget& widget = WidgetOf(control);
+  // A panel in front of it hides it.
+  const QWidget* const seen = desk_->childAt(widget.mapTo(desk_, widget.rect().center()));
+  return seen != nullptr &&
+         (seen == &widget || widget.isAncestorOf(seen) || &control == &form_.RichTextBox1);
+}
+
+bool MainWindow::MoveByTab(bool forward) {
+  const std::span<const std::string_view> order = TabOrder();
+  const auto size = static_cast<int>(order.size());
+  const std::string_view from = lastFocus_ != nullptr ? lastFocus_->Name() : std::string_view();
+  const auto found = std::find(order.begin(), order.end(), from);
+  int at = found != order.end() ? static_cast<int>(found - order.begin()) : (forward ? -1 : 0);
+  for (int step = 0; step < size; ++step) {
+    at = (at + (forward ? 1 : size - 1)) % size;
+    Control* const control = form_.Find(order[static_cast<std::size_t>(at)]);
+    if (!IsTabStop(*control)) continue;
+    WidgetOf(*control).setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    UserGoesInto(WidgetOf(*control));
+    return true;
+  }
+  return false;
+}
+
+}  // namespace quill

@@ -1,0 +1,54 @@
+// The real window. It is built once from the catalogue and then follows the model; it decides
+// nothing about the work.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <vector>
+
+#include "window/actions.h"
+#include "window/binder.h"
+#include "window/updates.h"
+
+namespace quill {
+
+class MainWindow final : public QMainWindow {
+ public:
+  // The program must outlive the window.
+  explicit MainWindow(Program& program);
+  ~MainWindow() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  // Sees the user's moves of the focus: a press of the mouse on a control, a Tab key.
+  bool eventFilter(QObject* object, QEvent* event) override;
+  // The toolkit's own moves of the focus, as from a widget that is disabled or hidden: they end
+  // where keys do no harm.
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  void BuildMenus();
+  void BuildControls();
+  void StackControls();
+  QWidget& WidgetOf(const Control& control) const;
+
+  void Show();
+  void ShowWindow();
+  void ShowFocus();
+  void Arrange();
+
+  void UserGoesInto(const QWidget& widget);
+  bool MoveByTab(bool forward);
+  // Whether Tab stops there: in reach, and not behind another panel.
+  bool IsTabStop(const Control& control) const;
+  Control* ControlOf(const QWidget* widget) const;
+
+  Form1& form_;
+  Actions actions_;
+  Updates updates_;
+  std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
+  QWidget* desk_;
+  Control* lastFocus_ = nullptr;  // where Tab goes on from
+};
+
+}  // namespace quill

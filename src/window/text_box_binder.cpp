@@ -1,0 +1,111 @@
+#include "window/text_box_binder.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <limits>
+
+#include "window/appearance.h"
+#include "window/shown.h"
+
+namespace quill {
+
+TextBoxBinder::TextBoxBinder(TextBox& box, QWidget& widget, Actions& actions)
+    : WidgetBinder(box, widget, actions), box_(box) {}
+
+bool TextBoxBinder::IsReadOnly() const {
+  return box_.Name() == "Infotext" || box_.Name() == "User_Dialogue";
+}
+
+void TextBoxBinder::Forward(std::u32string_view shown, std::u32string_view now) {
+  if (TheActions().Running()) return;
+  const std::u32string edited = ForwardEdit(box_.Text.Get(), shown, now);
+  TheActions().Do([&](Program& program) { program.Edit(box_, edited); });
+  // Also where the program took nothing of it.
+  Show();
+}
+
+void TextBoxBinder::Show() {
+  WidgetBinder::Show();
+  ShowLook();
+}
+
+void TextBoxBinder::ShowLook() {
+  if (background_ != box_.BackColor.Get() || foreground_ != box_.ForeColor.Get()) {
+    background_ = box_.BackColor.Get();
+    foreground_ = box_.ForeColor.Get();
+    SetColours(*Widget(), ToQColor(*background_), ToQColor(*foreground_));
+  }
+  QFont font = Widget()->font();
+  if (font.bold() != box_.FontBold.Get()) {
+    font.setBold(box_.FontBold);
+    Widget()->setFont(font);
+  }
+}
+
+OneLineBinder::OneLineBinder(TextBox& box, QWidget& container, Actions& actions)
+    : OneLineBinder(box, *new QLineEdit(&container), actions) {}
+
+OneLineBinder::OneLineBinder(TextBox& box, QLineEdit& line, Actions& actions)
+    : TextBoxBinder(box, line, actions), line_(line) {
+  // A line edit would cut at 32,767 characters.
+  line.setMaxLength(std::numeric_limits<int>::max());
+  line.setReadOnly(IsReadOnly());
+  if (box.Row().stored.centred) line.setAlignment(Qt::AlignCenter);
+  QObject::connect(&line, &QLineEdit::textEdited, &line, [this](const QString& now) {
+    Forward(FromQt(ToQt(Box().Text.Get())), FromQt(now));
+  });
+}
+
+void OneLineBinder::Show() {
+  TextBoxBinder::Show();
+  const QString text = ToQt(Box().Text.Get());
+  if (line_.text() == text) return;
+  line_.setText(text);
+  // Where nobody types, the beginning says more than the end.
+  line_.setCursorPosition(line_.hasFocus() ? static_cast<int>(text.size()) : 0);
+}
+
+// The user goes on behind what the program wrote.
+void OneLineBinder::TakeFocus() {
+  WidgetBinder::TakeFocus();
+  line_.end(false);
+}
+
+SeveralLinesBinder::SeveralLinesBinder(TextBox& box, QWidget& container, Actions& actions)
+    : SeveralLinesBinder(box, *new QPlainTextEdit(&container), actions) {}
+
+SeveralLinesBinder::SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions)
+    : TextBoxBinder(box, edit, actions), edit_(edit) {
+  edit.setTabChangesFocus(true);
+  edit.setReadOnly(IsReadOnly());
+  if (IsReadOnly()) {
+    edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  }
+  edit.setVerticalScrollBarPolicy(box.Row().stored.verticalScrollBar ? Qt::ScrollBarAlwaysOn
+                                                                     : Qt::ScrollBarAlwaysOff);
+  edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  edit.document()->setDocumentMargin(3);
+  if (IsReadOnly() && !box.Row().stored.verticalScrollBar) {
+    constexpr QSize kMargins(12, 10);
+    edit.setFont(FittingFont(edit.font(), ToQt(box.Row().text), edit.size() - kMargins));
+  }
+  QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit,
+                   [this] { Forward(ShownText(Box().Text.Get()), RawText(*edit_.document())); });
+}
+
+void SeveralLinesBinder::Show() {
+  TextBoxBinder::Show();
+  const std::u32string text = ShownText(Box().Text.Get());
+  if (RawText(*edit_.document()) == text) return;
+  const QSignalBlocker quiet(edit_);
+  edit_.setPlainText(ToQt(text));
+  if (edit_.hasFocus()) edit_.moveCursor(QTextCursor::End);
+}
+
+void SeveralLinesBinder::TakeFocus() {
+  WidgetBinder::TakeFocus();
+  edit_.moveCursor(QTextCursor::End);
+}
+
+}  // namespace quill

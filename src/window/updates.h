@@ -1,0 +1,57 @@
+// What the model says, gathered until it is shown: at the end of an action and before a dialog.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+
+#include "window/document_binder.h"
+#include "workbench/form1.h"
+
+namespace quill {
+
+class Updates final : public Watcher {
+ public:
+  // `show` is called before a dialog opens.
+  Updates(Form1& form, std::function<void()> show);
+  ~Updates() override;
+
+  void Follow(const Control& control, Binder& binder);
+  void FollowText(DocumentBinder& binder);
+
+  Binder& BinderOf(const Control& control) const { return *binders_.at(&control); }
+
+  // Shows every control, changed or not.
+  void ShowAll();
+  // Shows what changed.
+  void ShowChanges();
+  bool TakeFocusMoved() { return std::exchange(focusMoved_, false); }
+  // The caption of the window or what its layout depends on has changed.
+  bool TakeWindowChanged() { return std::exchange(windowChanged_, false); }
+
+  void PropertyChanged(Control& control, PropertyId property) override;
+  void ItemInserted(ListBox& list, int index) override;
+  void ItemRemoved(ListBox& list, int index) override;
+  void ListCleared(ListBox& list) override;
+  void RowChanged(ComboBox& combo, int row) override;
+  void TextLoaded() override;
+  void TextReplaced(Position at, Position removed, Position inserted) override;
+  void FormatChanged(Range range) override;
+  void SelectionChanged() override;
+  void FocusMoved() override { focusMoved_ = true; }
+  void DialogOpens() override { show_(); }
+
+ private:
+  void Touch(const Control& control);
+  void TouchItems(const ListBox& list);
+
+  Form1& form_;
+  std::function<void()> show_;
+  std::map<const Control*, Binder*> binders_;
+  std::set<Binder*> touched_;
+  DocumentBinder* text_ = nullptr;
+  bool focusMoved_ = false;
+  bool windowChanged_ = true;
+};
+
+}  // namespace quill

@@ -1,0 +1,38 @@
+// The dialogs of the real window: the desktop's own file dialogs, and message boxes.
+#pragma once
+
+#include <QMessageBox>
+#include <QStringList>
+
+#include "workbench/form1.h"
+
+namespace quill {
+
+class WindowDialogs final : public Dialogs {
+ public:
+  // Before the first dialog: the window over which they open. Both must outlive the dialogs' use.
+  void Attach(QWidget& window, const Form1& form);
+
+  std::optional<std::u32string> ShowOpen(const std::u32string& title,
+                                         const std::u32string& filter) override;
+  // Asks before an existing file is overwritten, unless it is the working copy on show.
+  std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
+                                         const std::u32string& proposed) override;
+  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override;
+
+ private:
+  QString StartFolder() const;
+  bool MayWrite(const QString& path);
+
+  QWidget* window_ = nullptr;
+  const Form1* form_ = nullptr;
+};
+
+// The filters of a file dialog as the toolkit wants them: "label (patterns)", where "*.*" stands
+// for every file.
+QStringList ToolkitFilters(const std::u32string& filter);
+
+// The path, with the extension of the filter where it has none.
+QString WithExtension(const QString& path, const QString& toolkitFilter);
+
+}  // namespace quill

@@ -1,0 +1,105 @@
+// Focus: a user's move raises GotFocus, nothing else does.
+#include <QApplication>
+#include <QLineEdit>
+#include <QtTest>
+
+#include "shown_window.h"
+#include "user.h"
+
+namespace quill::test {
+namespace {
+
+class FocusTest : public WindowTest {
+ protected:
+  FocusTest() { OpenText("He came yesterday.\\par"); }
+};
+
+TEST_F(FocusTest, AUserGoesInWithTheMouseOrATab) {
+  Press("Text2");
+  EXPECT_EQ(form.Text2.Text.Get(), U" ");
+  Keys("a day");
+  EXPECT_EQ(form.Text2.Text.Get(), U" a day");
+  Press("Text2");
+  EXPECT_EQ(form.Text2.Text.Get(), U" a day") << "it had the focus";
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(FocusName(), "add_to_dictionary");
+  EXPECT_EQ(form.add_to_dictionary.Text.Get(), U" ");
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(FocusName(), "Text2");
+  EXPECT_EQ(form.Text2.Text.Get(), U" ");
+  ExpectShown(window, form);
+}
+
+TEST_F(FocusTest, FocusThatMovesByItselfRaisesNothing) {
+  // The button disables itself, and the next controls in the toolkit's order are boxes.
+  DragOver(0, 2);
+  Press("DefAMarker");
+  ASSERT_FALSE(Widget("DefAMarker").isEnabled());
+  EXPECT_EQ(form.Text2.Text.Get(), U"Definition?");
+  EXPECT_EQ(form.add_to_dictionary.Text.Get(), U"Lemma ?");
+
+  Press("Text2");
+  form.Text2.Text = U"kept";
+  QApplication::setActiveWindow(nullptr);
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  Choose("mnuDialogue_off");
+  EXPECT_EQ(form.Text2.Text.Get(), U"kept");
+}
+
+TEST_F(FocusTest, AHiddenControlLeavesTheFocusToNobody) {
+  Choose("mnuUserID");
+  Press("CloseIDFrame");
+  EXPECT_FALSE(form.IDFrame.Visible);
+  EXPECT_EQ(FocusName(), "") << "keys would do harm in a box that nobody chose";
+}
+
+TEST_F(FocusTest, TabStopsAtNothingThatIsCovered) {
+  Choose("mnuPostProcess");
+  OpenText("Once more.\\par");
+  ASSERT_TRUE(form.PreFrame.Visible);
+  std::vector<std::string> stops;
+  for (int i = 0; i < 60; ++i) {
+    Key(Qt::Key_Tab);
+    stops.push_back(FocusName());
+  }
+  EXPECT_TRUE(std::count(stops.begin(), stops.end(), "TagList") > 0);
+  for (const char* covered : {"DefAMarker", "Parse_1", "ClassCombo", "UserID1"}) {
+    EXPECT_EQ(std::count(stops.begin(), stops.end(), covered), 0) << covered;
+  }
+}
+
+TEST_F(FocusTest, BoxesForwardTheirEdits) {
+  DragOver(8, 17);
+  Press("DefAMarker");
+  Key(Qt::Key_Home);
+  Key(Qt::Key_Delete);
+  Keys("Y");
+  EXPECT_EQ(form.AMarkedString.Text.Get(), U"Yesterday");
+  // A no-break space that the model holds outlives an edit beside it.
+  form.AMarkedString.Text = U"10\u00A0h\u2028";
+  Press("AMarkedString");
+  Choose("mnuDialogue_off");
+  Key(Qt::Key_End, Qt::ControlModifier);
+  Keys("x");
+  EXPECT_EQ(form.AMarkedString.Text.Get(), U"10\u00A0h\u2028x");
+  ExpectShown(window, form);
+}
+
+TEST_F(FocusTest, ComboBoxesTakeTypingAndPickNothingOnEnter) {
+  Choose("mnuPostProcess");
+  form.ClassCombo.Enabled = true;
+  Choose("mnuDialogue_off");
+  Press("ClassCombo");
+  auto& line = *Widget("ClassCombo").findChild<QLineEdit*>();
+  QTest::mouseClick(&line, Qt::LeftButton);
+  line.selectAll();
+  Keys("grammatic");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(form.ClassCombo.Text.Get(), U"grammatic");
+  EXPECT_FALSE(form.OperatorCombo.Enabled) << "only a pick runs the rules";
+  ExpectShown(window, form);
+}
+
+}  // namespace
+}  // namespace quill::test

@@ -1,0 +1,114 @@
+// The road of one text on the real window, by mouse and keyboard.
+#include <QApplication>
+#include <QMenu>
+#include <QtTest>
+
+#include "shown_window.h"
+#include "user.h"
+
+namespace quill::test {
+namespace {
+
+constexpr const char* kBody = R"(He came yesterday and left.\par {\i Nobody} saw him again.\par)";
+
+TEST_F(WindowTest, ShowsTheStoredState) {
+  ExpectShown(window, form);
+  EXPECT_EQ(Widget("RichTextBox1").geometry(), QRect(8, 8, 937, 289));
+  EXPECT_EQ(Widget("A_type_add").geometry(), QRect(192, 16, 33, 25));
+}
+
+TEST_F(WindowTest, ShowsAnOpenedText) {
+  OpenText(kBody);
+  EXPECT_EQ(form.RichTextBox1.Text(), U"He came yesterday and left.\nNobody saw him again.\n");
+  ExpectShown(window, form);
+}
+
+TEST_F(WindowTest, FromAMarkToAStoredTag) {
+  OpenText(kBody);
+  DragOver(8, 17);
+  EXPECT_EQ(form.RichTextBox1.SelText(), U"yesterday");
+  Press("DefAMarker");
+  EXPECT_EQ(form.AMarkedString.Text.Get(), U"yesterday");
+  ExpectShown(window, form);
+
+  Press("AMarkSet");
+  EXPECT_TRUE(form.RichTextBox1.Doc().At(8).bold);
+  EXPECT_EQ(FocusName(), "RichTextBox1");
+  ExpectShown(window, form);
+
+  Choose("mnuPostProcess");
+  Press("FindAMarker");
+  EXPECT_EQ(form.marked_term.Text.Get(), U"yesterday");
+  ExpectShown(window, form);
+
+  PickRow("ClassCombo", 1);
+  PickRow("OperatorCombo", 1);
+  PickRow("ModeCombo", 1);
+  ExpectShown(window, form);
+  PickRow("TypeCombo", 2);
+  PickRow("GranCombo", 4);
+  Press("ValBox");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Keys("24");
+  Press("Generate_Tag");
+  ASSERT_EQ(form.TagList.ListCount(), 1);
+  EXPECT_NE(form.TagList.List(0).find(U"lexematic\\ a_operator\\ absolute \\ start\\ h \\ 24\\"),
+            std::u32string::npos);
+  EXPECT_GT(form.RichTextBox1.Doc().At(8).offset, 0);
+  ExpectShown(window, form);
+
+  ClickRow("TagList", 0);
+  EXPECT_EQ(form.TagList.ListIndex, 0);
+  ExpectShown(window, form);
+}
+
+TEST_F(WindowTest, PanelsCoverEachOther) {
+  OpenText(kBody);
+  // Both are shown when a text is opened in post-processing.
+  Choose("mnuPostProcess");
+  OpenText(kBody);
+  ASSERT_TRUE(form.PreFrame.Visible && form.PostFrame.Visible);
+  const QWidget& desk = *Widget("PostFrame").parentWidget();
+  EXPECT_EQ(desk.childAt(Widget("PostFrame").geometry().center())->window(), &window);
+  EXPECT_EQ(desk.childAt(100, 360), &Widget("FindAMarker"));
+
+  const int width = Widget("RichTextBox1").width();
+  Choose("mnuDialogue_off");
+  Choose("mnuDialogue_on");
+  EXPECT_LT(Widget("RichTextBox1").width(), width - 190) << "the text wraps beside the guidance";
+  ExpectShown(window, form);
+}
+
+TEST_F(WindowTest, TheTextTakesWhatTheWindowGrowsBy) {
+  OpenText(kBody);
+  const QSize stored = window.size();
+  const QRect text = Widget("RichTextBox1").geometry();
+  const QRect panel = Widget("PreFrame").geometry();
+  window.resize(stored + QSize(200, 100));
+  QApplication::processEvents();
+  EXPECT_EQ(Widget("RichTextBox1").geometry(), text.adjusted(0, 0, 200, 100));
+  EXPECT_EQ(Widget("PreFrame").geometry(), panel.translated(0, 100));
+}
+
+TEST_F(WindowTest, AMenuTitleHasAHandlerOfItsOwn) {
+  ASSERT_FALSE(form.Infoframe.Visible);
+  window.activateWindow();
+  auto* const title = window.findChild<QAction*>("mnuInfo");
+  emit title->menu()->aboutToShow();
+  EXPECT_TRUE(form.Infoframe.Visible);
+  ExpectShown(window, form);
+}
+
+TEST_F(WindowTest, ClosingEndsTheProgram) {
+  window.close();
+  EXPECT_TRUE(program.Ended());
+}
+
+TEST_F(WindowTest, TheExitItemClosesTheWindow) {
+  Choose("mnuFileClose");
+  EXPECT_TRUE(program.Ended());
+  EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace quill::test
