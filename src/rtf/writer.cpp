@@ -257,9 +257,8 @@ void Writer::EmitTree(const Tree& tree) {
       const Attributes outside = inForce.back();
       const Attributes inside = Changed(outside, group.words);
       const std::vector<FormatId>& formats = direct[index - tree.first];
-      const bool wanted = std::any_of(formats.begin(), formats.end(), [&](FormatId id) {
-        return writer.targets_[id] == inside;
-      });
+      const bool wanted = std::any_of(formats.begin(), formats.end(),
+                                      [&](FormatId id) { return writer.targets_[id] == inside; });
       const bool keep = (inside != outside && wanted) || writer.KeepsPartsApart(group);
       writer.CloseWrap();
       writer.out_.CopyTo(group.open);

@@ -1,0 +1,145 @@
+// Groups that hold something else than text: tables, pictures, notes, and what nobody knows.
+#include <algorithm>
+#include <string_view>
+
+#include "rtf/text_reader.h"
+#include "rtf/words.h"
+#include "text/unicode.h"
+
+namespace quill::rtf {
+
+void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
+  switch (entry.word) {
+    case Word::kTransparent:
+      marks_.Other();
+      return;
+    case Word::kAlternatives:
+      marks_.Other();
+      skipNext_ = true;
+      return;
+    case Word::kPictureForm:
+      TakePictureForm(entry, token);
+      return;
+    case Word::kObject:
+      TakeObject(token);
+      return;
+    case Word::kFontTable:
+      tables_.fonts.Read(lexer_, *tables_.standardPage);
+      CloseSkipped();
+      if (text_.Size() == 0) tablePlace_ = lexer_.At();
+      SelectFont(tables_.defaultFont, tables_, states_);
+      return;
+    case Word::kColourTable:
+      TakeColourTable();
+      return;
+    case Word::kExpandedColourTable:
+      tables_.colours.expandedEnd = SkipToClose();
+      CloseSkipped();
+      return;
+    default:
+      // A destination directly in the document's own group would hide all the rest of it.
+      if (states_.Depth() > 1) SkipGroup();
+      return;
+  }
+}
+
+// The first table with colours in it is the file's; others are run over.
+void TextReader::TakeColourTable() {
+  if (tableFound_) return SkipGroup();
+  ReadColourTable(lexer_, tables_.colours);
+  tableFound_ = !tables_.colours.entries.empty();
+  tableCameLate_ = tableFound_ && text_.Size() > 0;
+  CloseSkipped();
+}
+
+// A picture or an object, with all that its group holds, is one character.
+void TextReader::TakeObject(const Token& token) {
+  const bool wholeGroup = atHead_ || (starred_ && starredHead_);
+  Offset end = SkipToClose();
+  if (wholeGroup && end < bytes_.size()) ++end;
+  text_.Add(kObject, wholeGroup ? groupOpen_ : token.begin, end);
+  if (wholeGroup) {
+    marks_.GroupIsCharacter();
+  } else {
+    marks_.Other();
+  }
+  CloseGroup();
+}
+
+// A picture may stand there in two forms, one behind the other: together they are one character.
+void TextReader::TakePictureForm(const WordEntry& entry, const Token& token) {
+  const bool second = pictureForm_ != 0 && pictureForm_ != entry.argument &&
+                      pictureFormAt_ == text_.Size() && IsOnlyLineEnds(pictureEnd_, groupOpen_);
+  if (!second) {
+    TakeObject(token);
+    pictureForm_ = entry.argument;
+  } else {
+    const Offset end = SkipToClose();
+    text_.ExtendLast(std::min<Offset>(end + 1, static_cast<Offset>(bytes_.size())));
+    marks_.GroupIsCharacter();
+    CloseGroup();
+    pictureForm_ = 0;
+  }
+  pictureFormAt_ = text_.Size();
+  pictureEnd_ = lexer_.At();
+}
+
+bool TextReader::IsOnlyLineEnds(Offset begin, Offset end) const {
+  const std::string_view gap = std::string_view(bytes_).substr(begin, end - begin);
+  return gap.find_first_not_of("\r\n") == std::string_view::npos;
+}
+
+// Runs over the rest of the group, whose closing brace is the last token taken. Returns where that
+// stands, or the end of the file where it is missing.
+Offset TextReader::SkipToClose() {
+  Offset at = lexer_.At();
+  for (std::size_t depth = 1; depth > 0;) {
+    const Token token = lexer_.Next();
+    at = token.begin;
+    if (token.kind == Token::kEnd) break;
+    if (token.kind == Token::kOpen) ++depth;
+    if (token.kind == Token::kClose) --depth;
+    if (token.kind != Token::kWord) continue;
+    const Word word = LookUp(token.word).word;
+    if (word == Word::kColour || word == Word::kOtherColour || word == Word::kBackground) {
+      NoteColour(tables_.colours, token.number);
+    }
+  }
+  return at;
+}
+
+void TextReader::SkipGroup() {
+  SkipToClose();
+  CloseSkipped();
+}
+
+// The group whose content was run over is closed.
+void TextReader::CloseSkipped() {
+  marks_.Other();
+  CloseGroup();
+}
+
+void TextReader::CloseGroup() {
+  text_.Flush();
+  atHead_ = false;
+  starred_ = false;
+  if (states_.Depth() > 1) {
+    states_.Close();
+  } else {
+    ended_ = true;
+  }
+}
+
+// A colour table can stand behind the words with which a file begins.
+void TextReader::EndHeader(const WordEntry* entry, const Token& token) {
+  if (headerEnded_ || states_.Depth() == 0) return;
+  const Word word = entry != nullptr ? entry->word : Word::kUnknown;
+  const bool header = word == Word::kHeader || word == Word::kCharacterSet ||
+                      word == Word::kAnsiCodePage || word == Word::kDefaultFont ||
+                      word == Word::kFallback;
+  if (header) return;
+  headerEnded_ = true;
+  if (tablePlace_ == 0) tablePlace_ = token.begin;
+}
+
+}  // namespace quill::rtf
