@@ -34,7 +34,10 @@ void TextBoxBinder::ShowLook() {
   if (background_ != box_.BackColor.Get() || foreground_ != box_.ForeColor.Get()) {
     background_ = box_.BackColor.Get();
     foreground_ = box_.ForeColor.Get();
-    SetColours(*Widget(), ToQColor(*background_), ToQColor(*foreground_));
+    const QColor background = ToQColor(*background_);
+    // The lemma takes the colour of its kind: the system's text colour gives way on a dark one.
+    const bool own = *foreground_ != kWindowText || IsSystemColour(*background_);
+    SetColours(*Widget(), background, own ? ToQColor(*foreground_) : TextOn(background));
   }
   QFont font = Widget()->font();
   if (font.bold() != box_.FontBold.Get()) {
