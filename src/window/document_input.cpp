@@ -72,7 +72,7 @@ void DocumentView::ShowPreedit(const QInputMethodEvent& event) {
   const QTextCursor cursor = textCursor();
   const QTextBlock block = document()->findBlock(cursor.selectionStart());
   const int begin = cursor.selectionStart() - block.position();
-  const QString preedit = event.preeditString();
+  const QString& preedit = event.preeditString();
   if (preedit.isEmpty() && preeditCaret_ < 0) return;
   preeditCaret_ = preedit.isEmpty() ? -1 : static_cast<int>(preedit.size());
   QList<QTextLayout::FormatRange> styles;

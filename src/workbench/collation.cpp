@@ -16,7 +16,7 @@ std::string LocaleName() {
   for (const char* variable : {"LC_ALL", "LC_COLLATE", "LANG"}) {
     const char* value = std::getenv(variable);
     if (value == nullptr || *value == '\0') continue;
-    const std::string name(value);
+    std::string name(value);
     if (name == "C" || name == "POSIX" || name.starts_with("C.")) return "";
     return name;
   }
