@@ -47,6 +47,7 @@ class Writer {
   struct Tree {
     std::size_t first = 0;
     std::size_t end = 0;
+    Span inside;  // its characters
   };
 
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
@@ -54,12 +55,13 @@ class Writer {
     return IsChanged(character) || origins_[character].IsTyped();
   }
   const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
-  Span CharactersOf(const MarkGroup& group) const;
+  std::size_t FirstBehind(Offset offset, std::size_t from) const;
+  Span CharactersOf(const MarkGroup& group, std::size_t from) const;
   void FindTouchedTrees();
   void NumberColours();
   std::vector<Patch> Patches() const;
 
-  bool KeepsPartsApart(const MarkGroup& group) const;
+  bool KeepsPartsApart(const MarkGroup& group, std::size_t from) const;
   template <class Visitor>
   void Walk(const Tree& tree, Visitor&& visitor) const;
   std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
@@ -119,12 +121,11 @@ std::string Writer::Write() {
   out_ = PatchedCopy(source_.bytes, Patches());
   std::size_t character = 0;
   for (const Tree& tree : touched_) {
-    const Span inside = CharactersOf(source_.groups[tree.first]);
-    for (; character < inside.begin; ++character) {
+    for (; character < tree.inside.begin; ++character) {
       if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
     }
     EmitTree(tree);
-    character = inside.end;
+    character = tree.inside.end;
   }
   for (; character < origins_.size(); ++character) {
     if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
@@ -134,28 +135,38 @@ std::string Writer::Write() {
   return out_.Take();
 }
 
-// The characters between the braces of a group. A character typed at its opening brace stands in
-// front of it, one typed at its closing brace inside.
-Span Writer::CharactersOf(const MarkGroup& group) const {
-  const auto behind = [](Offset offset, const Origin& origin) { return offset < origin.begin; };
-  const auto first = std::upper_bound(origins_.begin(), origins_.end(), group.open, behind);
-  const auto last = std::upper_bound(first, origins_.end(), group.close, behind);
-  return {static_cast<std::size_t>(first - origins_.begin()),
-          static_cast<std::size_t>(last - origins_.begin())};
+// The first character from `from` on whose bytes begin behind an offset. It is looked for in steps
+// that double, as it is near where searches go on from each other.
+std::size_t Writer::FirstBehind(Offset offset, std::size_t from) const {
+  std::size_t step = 1;
+  while (from + step < origins_.size() && origins_[from + step].begin <= offset) step *= 2;
+  const auto first = origins_.begin() + static_cast<std::ptrdiff_t>(from + step / 2);
+  const auto last =
+      origins_.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, origins_.size()));
+  if (from == origins_.size() || origins_[from].begin > offset) return from;
+  const auto found = std::upper_bound(
+      first, last, offset, [](Offset at, const Origin& origin) { return at < origin.begin; });
+  return static_cast<std::size_t>(found - origins_.begin());
+}
+
+// The characters between the braces of a group, none of which stands in front of `from`. One typed
+// at the opening brace stands in front of the group, one typed at the closing brace inside.
+Span Writer::CharactersOf(const MarkGroup& group, std::size_t from) const {
+  const std::size_t begin = FirstBehind(group.open, from);
+  return {begin, FirstBehind(group.close, begin)};
 }
 
 void Writer::FindTouchedTrees() {
   const std::vector<MarkGroup>& groups = source_.groups;
-  for (std::size_t at = 0; at < groups.size();) {
-    Tree tree{at, at + 1};
+  Tree tree;
+  for (std::size_t at = 0; at < groups.size(); at = tree.end) {
+    tree = {at, at + 1, CharactersOf(groups[at], tree.inside.end)};
     while (tree.end < groups.size() && groups[tree.end].open < groups[at].close) ++tree.end;
-    const Span inside = CharactersOf(groups[at]);
-    for (std::size_t i = inside.begin; i < inside.end; ++i) {
+    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) {
       if (!IsChanged(i)) continue;
       touched_.push_back(tree);
       break;
     }
-    at = tree.end;
   }
 }
 
@@ -164,8 +175,7 @@ void Writer::NumberColours() {
   std::vector<bool> used(targets_.size());
   for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id] != 0;
   for (const Tree& tree : touched_) {
-    const Span inside = CharactersOf(source_.groups[tree.first]);
-    for (std::size_t i = inside.begin; i < inside.end; ++i) used[formatIds_[i]] = true;
+    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) used[formatIds_[i]] = true;
   }
   for (FormatId id = 0; id < used.size(); ++id) {
     const Attributes& written = document_.Formats()[id].written;
@@ -191,8 +201,8 @@ std::vector<Patch> Writer::Patches() const {
 
 // Whether without the group's braces two broken characters, halves of a pair or of a sequence of
 // bytes, could become a whole one.
-bool Writer::KeepsPartsApart(const MarkGroup& group) const {
-  const Span inside = CharactersOf(group);
+bool Writer::KeepsPartsApart(const MarkGroup& group, std::size_t from) const {
+  const Span inside = CharactersOf(group, from);
   const std::u32string& text = document_.Text();
   const auto broken = [&](std::size_t at) { return at < text.size() && text[at] == kReplacement; };
   return broken(inside.begin) || broken(inside.begin - 1) || broken(inside.end) ||
@@ -203,7 +213,7 @@ bool Writer::KeepsPartsApart(const MarkGroup& group) const {
 template <class Visitor>
 void Writer::Walk(const Tree& tree, Visitor&& visitor) const {
   const std::vector<MarkGroup>& groups = source_.groups;
-  std::size_t character = CharactersOf(groups[tree.first]).begin;
+  std::size_t character = tree.inside.begin;
   std::size_t next = tree.first + 1;
   std::vector<std::size_t> open = {tree.first};
   visitor.Open(tree.first);
@@ -259,7 +269,8 @@ void Writer::EmitTree(const Tree& tree) {
       const std::vector<FormatId>& formats = direct[index - tree.first];
       const bool wanted = std::any_of(formats.begin(), formats.end(),
                                       [&](FormatId id) { return writer.targets_[id] == inside; });
-      const bool keep = (inside != outside && wanted) || writer.KeepsPartsApart(group);
+      const bool keep =
+          (inside != outside && wanted) || writer.KeepsPartsApart(group, tree.inside.begin);
       writer.CloseWrap();
       writer.out_.CopyTo(group.open);
       if (keep) {
