@@ -1,0 +1,40 @@
+// Dialogs and disk for benchmarks: nobody answers and nothing is stored.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "workbench/failure.h"
+#include "workbench/platform.h"
+
+namespace quill::bench {
+
+class NoDialogs : public Dialogs {
+ public:
+  std::optional<std::u32string> ShowOpen(const std::u32string& /*title*/,
+                                         const std::u32string& /*filter*/) override {
+    return std::nullopt;
+  }
+  std::optional<std::u32string> ShowSave(const std::u32string& /*title*/,
+                                         const std::u32string& /*filter*/,
+                                         const std::u32string& /*proposed*/) override {
+    return std::nullopt;
+  }
+  int MsgBox(const std::u32string& /*prompt*/, int /*buttons*/,
+             const std::u32string& /*title*/) override {
+    return 1;
+  }
+};
+
+class NoDisk : public Disk {
+ public:
+  std::string Read(const std::string& path) override {
+    throw StatementFailed(path + ": benchmarks have no files");
+  }
+  void Replace(const std::string& /*path*/, std::string_view /*bytes*/) override {}
+  void AppendLine(const std::string& /*path*/, std::string_view /*line*/) override {}
+  void CreateIfMissing(const std::string& /*path*/) override {}
+};
+
+}  // namespace quill::bench

@@ -1,0 +1,111 @@
+// Loading and saving, without the disk: bytes to a document and back.
+//
+// Beside each stands a plain pass over the same bytes, which is what the machine could do at best.
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <numeric>
+#include <string>
+
+#include "generated_text.h"
+#include "rtf/reader.h"
+#include "rtf/writer.h"
+
+namespace quill::bench {
+namespace {
+
+void Sizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->RangeMultiplier(10)->Range(100'000, 10'000'000)->Unit(benchmark::kMillisecond);
+}
+
+void Report(benchmark::State& state, std::size_t bytes, Position characters) {
+  state.SetBytesProcessed(static_cast<std::int64_t>(bytes) * state.iterations());
+  state.SetItemsProcessed(characters * state.iterations());
+}
+
+Document Loaded(Kind kind, std::int64_t characters) {
+  return *rtf::Read(GeneratedText(kind, characters));
+}
+
+void Load(benchmark::State& state, Kind kind) {
+  const std::string bytes = GeneratedText(kind, state.range(0));
+  Position characters = 0;
+  for (auto _ : state) {
+    // The copy is part of it: the reader keeps the bytes, and they come fresh from a file.
+    const auto document = rtf::Read(bytes);
+    if (!document) return state.SkipWithError("the generated text does not load");
+    characters = document->Length();
+  }
+  Report(state, bytes.size(), characters);
+}
+
+void Save(benchmark::State& state, const Document& document) {
+  std::size_t size = 0;
+  for (auto _ : state) {
+    const std::string bytes = rtf::Write(document);
+    size = bytes.size();
+    benchmark::DoNotOptimize(bytes.data());
+  }
+  Report(state, size, document.Length());
+}
+
+void SaveUnchanged(benchmark::State& state, Kind kind) {
+  Save(state, Loaded(kind, state.range(0)));
+}
+
+// Marks every second word of a text that had no marks.
+void MarkWords(Document& document) {
+  const std::u32string text = document.Text();
+  bool marked = false;
+  Position begin = 0;
+  while (begin < document.Length()) {
+    auto end = static_cast<Position>(text.find(U' ', static_cast<std::size_t>(begin)));
+    if (end < 0) end = document.Length();
+    if (marked) document.Apply({begin, end}, {.colour = RGB(255, 0, 0), .bold = true});
+    marked = !marked;
+    begin = end + 1;
+  }
+}
+
+void SaveNewMarks(benchmark::State& state) {
+  Document document = Loaded(Kind::kProse, state.range(0));
+  MarkWords(document);
+  Save(state, document);
+}
+
+// Takes every mark of the file off again: each of its groups is dissolved.
+void SaveWithoutMarks(benchmark::State& state) {
+  Document document = Loaded(Kind::kMarked, state.range(0));
+  document.Apply({0, document.Length()}, {.colour = RGB(0, 0, 0), .bold = false});
+  Save(state, document);
+}
+
+void PlainSum(benchmark::State& state) {
+  const std::string bytes = GeneratedText(Kind::kProse, state.range(0));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(std::accumulate(bytes.begin(), bytes.end(), 0U));
+  }
+  Report(state, bytes.size(), state.range(0));
+}
+
+void PlainCopy(benchmark::State& state) {
+  const std::string bytes = GeneratedText(Kind::kProse, state.range(0));
+  for (auto _ : state) {
+    const std::string copy = bytes;
+    benchmark::DoNotOptimize(copy.data());
+  }
+  Report(state, bytes.size(), state.range(0));
+}
+
+BENCHMARK_CAPTURE(Load, Prose, Kind::kProse)->Apply(Sizes);
+BENCHMARK_CAPTURE(Load, EverySecondWordMarked, Kind::kMarked)->Apply(Sizes);
+BENCHMARK_CAPTURE(Load, ControlWordsOnly, Kind::kControlWords)->Apply(Sizes);
+BENCHMARK_CAPTURE(SaveUnchanged, Prose, Kind::kProse)->Apply(Sizes);
+BENCHMARK_CAPTURE(SaveUnchanged, EverySecondWordMarked, Kind::kMarked)->Apply(Sizes);
+BENCHMARK(SaveNewMarks)->Apply(Sizes);
+BENCHMARK(SaveWithoutMarks)->Apply(Sizes);
+BENCHMARK(PlainSum)->Apply(Sizes);
+BENCHMARK(PlainCopy)->Apply(Sizes);
+
+}  // namespace
+}  // namespace quill::bench
