@@ -88,6 +88,33 @@ TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
   for (const Case& c : cases) EXPECT_EQ(Marked(c.file, {0, 1}), c.expected) << c.file;
 }
 
+// Braces that a save adds or takes away must not be read together with what stands beside them.
+TEST(RtfWriter, LeavesBrokenFilesAsBrokenAsTheyWere) {
+  const std::string fonts = "{\\rtf1{\\fonttbl{\\f0 A;}{\\f1\\fcharset128 J;}}" + kTable;
+  const std::vector<std::string> files = {
+      fonts + "\\f1\\'83{\\b A}}",               // a lead byte in front of a mark
+      fonts + "\\f1 x\xF7\x08y}",                // a raw one, which would take a brace
+      fonts + "\\u55357?{\\b\\u56842?}x}",       // two halves that are no pair
+      fonts + "\\upr xyz}",                      // no group to choose from
+      fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",  // a brace ends what stands in for a character
+      "{\\rtf1 xyz{\\colortbl;\\red9;\\",        // a table that breaks off at a backslash
+      "{\\rtf1 xyz\\",
+      "{\\rtf1{\\colortbl;\\red9;\\red8;}xyz{\\colortbl;\\red7;}",
+  };
+  for (const std::string& file : files) {
+    const Document original = *rtf::Read(file);
+    for (Position begin = 0; begin < original.Length(); ++begin) {
+      for (const AttributeChange& change : {kBlue, kPlain}) {
+        Document document = original;
+        document.Apply({begin, begin + 1}, change);
+        const std::string saved = rtf::Write(document);
+        SCOPED_TRACE(file + " saved as " + saved);
+        ExpectSameText(document, *rtf::Read(saved));
+      }
+    }
+  }
+}
+
 TEST(RtfWriter, WritesARaisedPositionInHalfPoints) {
   const std::vector<std::pair<Twips, Twips>> cases = {
       {25, 30}, {1, 10}, {20, 20}, {-3, -10}, {0, 0}};
