@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "tags/tag_editor.h"
+#include "tags/underlines.h"
 #include "workbench/form1.h"
 
 namespace quill {
@@ -86,13 +87,6 @@ void FindNextMarker(Form1& form) {
   const auto colour = static_cast<Colour>(form.WorkState.MarkerColor.Number());
   if (FindStart(form, colour) && FindEnd(form, colour)) ShowRun(form);
   ApplyTagEditorRules(form);
-}
-
-void ClearUnderlines(Form1& form) {
-  form.RichTextBox1.SelStart = 1;
-  form.RichTextBox1.SelLength = form.RichTextBox1.Length();
-  form.RichTextBox1.SelUnderline = false;
-  form.RichTextBox1.SelStart = 0;
 }
 
 }  // namespace quill

@@ -18,7 +18,4 @@ void Restart_PP_Click(Form1& form);
 // its second; a run that reaches the text's end gets a start and no end.
 void FindNextMarker(Form1& form);
 
-// Takes the underline off all characters but the first, and puts the caret at 0.
-void ClearUnderlines(Form1& form);
-
 }  // namespace quill

@@ -1,9 +1,9 @@
 #include "tags/tag_generation.h"
 
 #include "files/text_family.h"
-#include "marking/navigation.h"
 #include "tags/tag_list_file.h"
 #include "tags/tag_record.h"
+#include "tags/underlines.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
