@@ -49,6 +49,7 @@ TEST(RtfReader, TellsCharactersFromWhatIsNone) {
       {"\\unknown x\\unknown-12y", "xy"},
       // Groups that hold no text.
       {"a{\\*\\strange b}{\\info{\\title b}}{\\header b}{\\footnote b}c", "ac"},
+      {"a{\\author b}{\\passwordhash 01}c", "ac"},
       {"a{\\listtext 1.\\tab}{\\pntext 2.}{\\xe b}{\\*\\annotation b}c", "ac"},
       {"a{\\field{\\*\\fldinst HYPERLINK}{\\fldrslt b}}{\\fldinst c}", "ab"},
       {"{\\upr{ansi}{\\*\\ud unicode}}", "unicode"},
