@@ -42,8 +42,11 @@ void MarkGroupFinder::GroupIsCharacter() {
 }
 
 std::vector<MarkGroup> MarkGroupFinder::Take() {
-  std::sort(found_.begin(), found_.end(),
-            [](const MarkGroup& a, const MarkGroup& b) { return a.open < b.open; });
+  // They were found in the order of their closing braces, which is the same where none is nested.
+  const auto byOpening = [](const MarkGroup& a, const MarkGroup& b) { return a.open < b.open; };
+  if (!std::is_sorted(found_.begin(), found_.end(), byOpening)) {
+    std::sort(found_.begin(), found_.end(), byOpening);
+  }
   return std::move(found_);
 }
 
