@@ -100,6 +100,7 @@ TEST(RtfWriter, LeavesBrokenFilesAsBrokenAsTheyWere) {
       "{\\rtf1 xyz{\\colortbl;\\red9;\\",        // a table that breaks off at a backslash
       "{\\rtf1 xyz\\",
       "{\\rtf1{\\colortbl;\\red9;\\red8;}xyz{\\colortbl;\\red7;}",
+      "{\\rtf1{\\colortbl}xyz{\\colortbl;",
   };
   for (const std::string& file : files) {
     const Document original = *rtf::Read(file);

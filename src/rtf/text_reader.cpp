@@ -24,6 +24,7 @@ TextReader::TextReader(std::string bytes, ColourTable known)
       states_(formats_, FirstState()),
       text_(states_, bytes_.size()) {
   tables_.standardPage = states_.Now().page;
+  tableFound_ = !known.entries.empty();
   tables_.colours = std::move(known);
 }
 

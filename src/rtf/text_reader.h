@@ -18,7 +18,7 @@ namespace quill::rtf {
 // else there is needs no keeping, for a save copies the bytes.
 class TextReader {
  public:
-  // `known` holds the colours in force before the file's own table has been met.
+  // `known` is the file's colour table where an earlier reading found it; else it is empty.
   TextReader(std::string bytes, ColourTable known);
 
   Document Read();
