@@ -101,6 +101,7 @@ TEST(RtfWriter, LeavesBrokenFilesAsBrokenAsTheyWere) {
       "{\\rtf1 xyz\\",
       "{\\rtf1{\\colortbl;\\red9;\\red8;}xyz{\\colortbl;\\red7;}",
       "{\\rtf1{\\colortbl}xyz{\\colortbl;",
+      "{\\rtf1 xyz{\\colortbl;\\red9;\\bin99 ",
   };
   for (const std::string& file : files) {
     const Document original = *rtf::Read(file);

@@ -46,8 +46,8 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
 // The first table with colours in it is the file's; others are run over.
 void TextReader::TakeColourTable() {
   if (tableFound_) return SkipGroup();
-  ReadColourTable(lexer_, tables_.colours);
-  tableFound_ = !tables_.colours.entries.empty();
+  const bool whole = ReadColourTable(lexer_, tables_.colours);
+  tableFound_ = whole && !tables_.colours.entries.empty();
   tableCameLate_ = tableFound_ && text_.Size() > 0;
   CloseSkipped();
 }

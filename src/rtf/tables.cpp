@@ -112,16 +112,17 @@ const Font* FontTable::Find(std::int32_t number) const {
   return found != fonts_.end() ? &found->second : nullptr;
 }
 
-void ReadColourTable(Lexer& lexer, ColourTable& table) {
+bool ReadColourTable(Lexer& lexer, ColourTable& result) {
+  ColourTable table;
   table.present = true;
-  table.entries.clear();
-  table.endsInSemicolon = true;
+  table.highestUsed = result.highestUsed;
+  table.expandedEnd = result.expandedEnd;
   ColourTable::Entry entry;
   std::array<unsigned, 3> parts{};
   for (std::size_t depth = 1; depth > 0;) {
     const Token token = lexer.Next();
     table.end = token.begin;
-    if (token.kind == Token::kEnd) break;
+    if (token.kind == Token::kEnd) return false;
     if (token.kind == Token::kOpen) ++depth;
     if (token.kind == Token::kClose) --depth;
     if (token.kind == Token::kWord) {
@@ -142,6 +143,8 @@ void ReadColourTable(Lexer& lexer, ColourTable& table) {
     }
   }
   if (!table.endsInSemicolon) table.entries.push_back(entry);
+  result = std::move(table);
+  return true;
 }
 
 Colour ColourOf(const ColourTable& table, std::int32_t number) {

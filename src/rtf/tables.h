@@ -54,8 +54,9 @@ class FontTable {
   const CodePage* standard_ = nullptr;
 };
 
-// Reads the colour table on from inside its group to its closing brace.
-void ReadColourTable(Lexer& lexer, ColourTable& table);
+// Reads the colour table on from inside its group to its closing brace. Returns false where the
+// file breaks off before; then the table is as it was.
+bool ReadColourTable(Lexer& lexer, ColourTable& table);
 
 // The colour that a number names; black where the entry is automatic or missing.
 Colour ColourOf(const ColourTable& table, std::int32_t number);
