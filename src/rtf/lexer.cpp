@@ -4,11 +4,11 @@
 #include <array>
 #include <limits>
 
+#include "rtf/ascii.h"
+
 namespace quill::rtf {
 namespace {
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsIgnored(char c) { return c == '\r' || c == '\n' || c == '\0'; }
 
 int HexValue(char c) {

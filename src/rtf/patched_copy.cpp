@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "rtf/ascii.h"
+
 namespace quill::rtf {
 namespace {
-
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::size_t BackslashesAtEnd(std::string_view bytes) {
   const std::size_t last = bytes.find_last_not_of('\\');

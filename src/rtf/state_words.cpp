@@ -10,7 +10,6 @@ namespace {
 constexpr std::int32_t kDefaultHalfPoints = 6;
 constexpr std::int32_t kDefaultFontSize = 24;
 constexpr std::int32_t kMostHalfPoints = 32767;
-constexpr Twips kTwipsInHalfPoint = 10;
 
 // Writes one member of the state, where it differs. `member` takes a state and gives the member.
 template <class Member, class T>

@@ -19,8 +19,6 @@
 namespace quill::rtf {
 namespace {
 
-constexpr Twips kTwipsInHalfPoint = 10;
-
 // Attributes as a file can hold them: a raised position in whole half-points, never rounded away.
 Attributes InFile(Attributes attributes) {
   const int halfPoints =

@@ -22,6 +22,7 @@ constexpr Colour RGB(unsigned red, unsigned green, unsigned blue) {
 // A raised or lowered position above the baseline, in twips (a twentieth of a point). Files count
 // it in half-points, ten twips each.
 using Twips = std::int32_t;
+inline constexpr Twips kTwipsInHalfPoint = 10;
 
 // The four attributes in which marks are written.
 struct Attributes {

@@ -1,0 +1,9 @@
+// The classes of bytes of which control words are made. The C library's go by the locale.
+#pragma once
+
+namespace quill::rtf {
+
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+}  // namespace quill::rtf
