@@ -6,6 +6,7 @@
 #include "marking/manual_marker.h"
 #include "marking/navigation.h"
 #include "operators/dictionary_panel.h"
+#include "operators/parsing_list.h"
 #include "tags/tag_editor.h"
 #include "tags/tag_generation.h"
 
@@ -42,6 +43,20 @@ void AttachPreFrame(Form1& form) {
   form.add_to_dictionary.Change = add_to_dictionary_Change;
   form.add_to_dictionary.GotFocus = add_to_dictionary_GotFocus;
   form.Text2.GotFocus = Text2_GotFocus;
+  form.A_type_add.Click = A_type_add_Click;
+  form.B_type_add.Click = B_type_add_Click;
+  form.Add_to_global_dict.Click = Add_to_global_dict_Click;
+  form.Add_to_spec_dict.Click = Add_to_spec_dict_Click;
+}
+
+void AttachParsing(Form1& form) {
+  form.Add_global_parsing_list.Click = Add_global_parsing_list_Click;
+  form.Add_specific_parsing_list.Click = Add_specific_parsing_list_Click;
+  form.Parse_listbox.Click = Parse_listbox_Click;
+  form.Parse_cull.Click = Parse_cull_Click;
+  form.Undo_Parse_Cull.Click = Undo_Parse_Cull_Click;
+  form.Deselect_Parse_Cull.Click = Deselect_Parse_Cull_Click;
+  form.Clear_list.Click = Clear_list_Click;
 }
 
 void AttachPostFrame(Form1& form) {
@@ -63,6 +78,7 @@ void AttachHandlers(Form1& form) {
   AttachMenus(form);
   AttachPanels(form);
   AttachPreFrame(form);
+  AttachParsing(form);
   AttachPostFrame(form);
 }
 

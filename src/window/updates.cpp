@@ -31,11 +31,6 @@ void Updates::Touch(const Control& control) {
   if (found != binders_.end()) touched_.insert(found->second);
 }
 
-void Updates::TouchItems(const ListBox& list) {
-  binders_.at(&list)->ItemsChanged();
-  Touch(list);
-}
-
 void Updates::PropertyChanged(Control& control, PropertyId /*property*/) {
   Touch(control);
   if (&control == &form_ || &control == &form_.User_Dialogue) windowChanged_ = true;
@@ -46,11 +41,10 @@ void Updates::PropertyChanged(Control& control, PropertyId /*property*/) {
   }
 }
 
-void Updates::ItemInserted(ListBox& list, int /*index*/) { TouchItems(list); }
-
-void Updates::ItemRemoved(ListBox& list, int /*index*/) { TouchItems(list); }
-
-void Updates::ListCleared(ListBox& list) { TouchItems(list); }
+void Updates::ItemsChanged(ListBox& list) {
+  binders_.at(&list)->ItemsChanged();
+  Touch(list);
+}
 
 void Updates::RowChanged(ComboBox& combo, int /*row*/) { Touch(combo); }
 

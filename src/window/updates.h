@@ -30,9 +30,7 @@ class Updates final : public Watcher {
   bool TakeWindowChanged() { return std::exchange(windowChanged_, false); }
 
   void PropertyChanged(Control& control, PropertyId property) override;
-  void ItemInserted(ListBox& list, int index) override;
-  void ItemRemoved(ListBox& list, int index) override;
-  void ListCleared(ListBox& list) override;
+  void ItemsChanged(ListBox& list) override;
   void RowChanged(ComboBox& combo, int row) override;
   void TextLoaded() override;
   void TextReplaced(Position at, Position removed, Position inserted) override;
@@ -43,7 +41,6 @@ class Updates final : public Watcher {
 
  private:
   void Touch(const Control& control);
-  void TouchItems(const ListBox& list);
 
   Form1& form_;
   std::function<void()> show_;

@@ -43,9 +43,14 @@ icu::UnicodeString ToIcu(std::u32string_view text) {
 
 }  // namespace
 
-bool CollatesBefore(std::u32string_view left, std::u32string_view right) {
-  UErrorCode status = U_ZERO_ERROR;
-  return UserCollator().compare(ToIcu(left), ToIcu(right), status) == UCOL_LESS;
+std::string CollationKey(std::u32string_view text) {
+  const icu::UnicodeString characters = ToIcu(text);
+  // The key's length without the zero that ends it.
+  const int32_t length = UserCollator().getSortKey(characters, nullptr, 0);
+  std::string key(static_cast<std::size_t>(length), '\0');
+  UserCollator().getSortKey(characters, reinterpret_cast<uint8_t*>(key.data()), length);
+  key.pop_back();
+  return key;
 }
 
 }  // namespace quill

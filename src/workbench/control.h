@@ -5,6 +5,7 @@
 // nothing.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -97,6 +98,8 @@ class ListBox : public Control {
   // Appends, or inserts at the sorted place, behind the items that compare equal. A full list
   // fails. ListIndex keeps its number.
   void AddItem(std::u32string_view text);
+  // Adds texts one after the other, in one go; those that a full list has no room for are left out.
+  void AddItems(const std::vector<std::u32string>& texts);
   // Outside the list it fails.
   void RemoveItem(int i);
   void Clear();
@@ -115,8 +118,10 @@ class ListBox : public Control {
 
  private:
   void Select(int i);
+  void SortFrom(std::ptrdiff_t unsorted);
 
   std::vector<std::u32string> items_;
+  std::vector<std::string> keys_;  // of a sorted list: the items' places in the order
   int listIndex_ = -1;
   bool sorted_;
 };

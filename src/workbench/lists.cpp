@@ -1,5 +1,8 @@
 // List boxes and combo boxes.
 #include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <utility>
 
 #include "workbench/collation.h"
 #include "workbench/control.h"
@@ -12,6 +15,14 @@ namespace {
 const std::u32string& ItemOf(const std::vector<std::u32string>& items, int i) {
   if (i < 0 || i >= static_cast<int>(items.size())) throw StatementFailed("no such item");
   return items[static_cast<std::size_t>(i)];
+}
+
+template <class T>
+std::vector<T> InOrder(std::vector<T> values, const std::vector<std::size_t>& order) {
+  std::vector<T> ordered;
+  ordered.reserve(values.size());
+  for (const std::size_t from : order) ordered.push_back(std::move(values[from]));
+  return ordered;
 }
 
 }  // namespace
@@ -54,16 +65,44 @@ void ListBox::Select(int i) {
 void ListBox::AddItem(std::u32string_view text) {
   if (ListCount() >= kMostItems) throw StatementFailed("the list is full");
   auto at = items_.end();
-  if (sorted_) at = std::upper_bound(items_.begin(), items_.end(), text, CollatesBefore);
-  const int index = static_cast<int>(at - items_.begin());
+  if (sorted_) {
+    std::string key = CollationKey(text);
+    const auto place = std::upper_bound(keys_.begin(), keys_.end(), key);
+    at = items_.begin() + (place - keys_.begin());
+    keys_.insert(place, std::move(key));
+  }
   items_.emplace(at, text);
-  Form().TheWatcher().ItemInserted(*this, index);
+  Form().TheWatcher().ItemsChanged(*this);
+}
+
+void ListBox::AddItems(const std::vector<std::u32string>& texts) {
+  const auto room = static_cast<std::size_t>(kMostItems - ListCount());
+  const auto end = texts.begin() + static_cast<std::ptrdiff_t>(std::min(room, texts.size()));
+  const auto old = static_cast<std::ptrdiff_t>(items_.size());
+  items_.insert(items_.end(), texts.begin(), end);
+  if (sorted_) SortFrom(old);
+  Form().TheWatcher().ItemsChanged(*this);
+}
+
+// The items in front of `unsorted` are in order, and stay in front of those that compare equal.
+void ListBox::SortFrom(std::ptrdiff_t unsorted) {
+  for (auto item = items_.begin() + unsorted; item != items_.end(); ++item) {
+    keys_.push_back(CollationKey(*item));
+  }
+  std::vector<std::size_t> order(items_.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  const auto before = [this](std::size_t a, std::size_t b) { return keys_[a] < keys_[b]; };
+  std::stable_sort(order.begin() + unsorted, order.end(), before);
+  std::inplace_merge(order.begin(), order.begin() + unsorted, order.end(), before);
+  items_ = InOrder(std::move(items_), order);
+  keys_ = InOrder(std::move(keys_), order);
 }
 
 void ListBox::RemoveItem(int i) {
   ItemOf(items_, i);
   items_.erase(items_.begin() + i);
-  Form().TheWatcher().ItemRemoved(*this, i);
+  if (sorted_) keys_.erase(keys_.begin() + i);
+  Form().TheWatcher().ItemsChanged(*this);
   if (listIndex_ == i) {
     Select(-1);
   } else if (listIndex_ > i) {
@@ -73,7 +112,8 @@ void ListBox::RemoveItem(int i) {
 
 void ListBox::Clear() {
   items_.clear();
-  Form().TheWatcher().ListCleared(*this);
+  keys_.clear();
+  Form().TheWatcher().ItemsChanged(*this);
   Select(-1);
 }
 

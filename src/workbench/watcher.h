@@ -28,9 +28,7 @@ class Watcher {
   virtual ~Watcher() = default;
 
   virtual void PropertyChanged(Control& /*control*/, PropertyId /*property*/) {}
-  virtual void ItemInserted(ListBox& /*list*/, int /*index*/) {}
-  virtual void ItemRemoved(ListBox& /*list*/, int /*index*/) {}
-  virtual void ListCleared(ListBox& /*list*/) {}
+  virtual void ItemsChanged(ListBox& /*list*/) {}
   virtual void RowChanged(ComboBox& /*combo*/, int /*row*/) {}
   // The whole text is another one.
   virtual void TextLoaded() {}

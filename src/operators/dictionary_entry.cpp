@@ -1,0 +1,35 @@
+#include "operators/dictionary_entry.h"
+
+#include <algorithm>
+
+#include "text/unicode.h"
+
+namespace quill {
+namespace {
+
+// Counted from 1.
+constexpr std::size_t kSecondBackslashColumn = 20;
+
+std::u32string OneLine(std::u32string lemma) {
+  std::replace_if(
+      lemma.begin(), lemma.end(), [](char32_t c) { return c == kParagraphEnd || c == kLineBreak; },
+      U' ');
+  return lemma;
+}
+
+std::u32string Written(const OperatorEntry& entry, std::size_t gap, char32_t secondDelimiter) {
+  return OneLine(entry.Lemma) + U"\\" + std::u32string(gap, U' ') + secondDelimiter +
+         entry.Category + U"< " + entry.Definition + U" >";
+}
+
+}  // namespace
+
+std::u32string ListForm(const OperatorEntry& entry) { return Written(entry, 6, U'|'); }
+
+std::u32string FileForm(const OperatorEntry& entry) {
+  const std::size_t inFront = entry.Lemma.size() + 1;
+  const std::size_t gap = std::max(kSecondBackslashColumn, inFront + 2) - 1 - inFront;
+  return Written(entry, gap, U'\\');
+}
+
+}  // namespace quill

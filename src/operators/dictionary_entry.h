@@ -1,0 +1,32 @@
+// An entry of a dictionary of temporal operators, in its two written forms.
+//
+//   lemma\      |C< definition >      in Parse_listbox: six blanks, a vertical bar
+//   lemma\    \C< definition >        in a dictionary file: the second backslash in column 20
+//
+// The lemma ends at the first backslash; the category C is the one character behind the second
+// delimiter. An entry that was read from a file stays in file form, so that both stand in the list.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quill {
+
+struct OperatorEntry {
+  std::u32string Lemma;
+  std::u32string Category;  // "A", "B" or one blank
+  std::u32string Definition;
+};
+
+// The dictionary of all texts: a bare name, in the directory in which the program was started.
+inline constexpr std::u32string_view kGlobalDictionary = U"globaldict.gdf";
+
+// The characters that no lemma may hold.
+inline constexpr std::u32string_view kReservedCharacters = U"\\|<>";
+
+// Line breaks of the lemma become blanks, so that an entry is one line.
+std::u32string ListForm(const OperatorEntry& entry);
+// Without the line end. The gap is as wide as is needed, and never narrower than one blank.
+std::u32string FileForm(const OperatorEntry& entry);
+
+}  // namespace quill

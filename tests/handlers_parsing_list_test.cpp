@@ -1,0 +1,133 @@
+// The parsing list: reading dictionaries into it, and thinning it out.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "support/workbench.h"
+
+namespace quill::test {
+namespace {
+
+struct ParsingList : testing::Test, Workbench {
+  ParsingList() {
+    ShowText(U"one two three", ".............");
+    form.Frame5.Enabled = true;
+    form.WorkState.SpecificDictFile = U"road.spd";
+  }
+
+  void Read(const std::string& bytes) {
+    disk.files["road.spd"] = bytes;
+    program.Click(form.Add_specific_parsing_list);
+  }
+  std::u32string Items() const {
+    std::u32string items;
+    for (const std::u32string& item : form.Parse_listbox.Items()) items += item + U";";
+    return items;
+  }
+  void Remove(int item) {
+    program.ClickItem(form.Parse_listbox, item);
+    program.Click(form.Parse_cull);
+  }
+};
+
+TEST_F(ParsingList, ReadsAnyLineEndAndBothCodePages) {
+  Read("\xEF\xBB\xBFzuletzt\\\r\ndann\\\rsp\xC3\xA4ter\\\n\nsp\xE4t\\");
+  EXPECT_EQ(Items(), U";dann\\;spät\\;später\\;zuletzt\\;");
+  EXPECT_TRUE(form.User_Dialogue.Text ==
+              U"The temporal operators unique to the current text base "
+              U"file have been added to the parsing list.");
+  // A second reading adds them again, beside the first.
+  Read("dann\\");
+  EXPECT_EQ(Items(), U";dann\\;dann\\;spät\\;später\\;zuletzt\\;");
+}
+
+TEST_F(ParsingList, ADictionaryThatCannotBeReadIsTold) {
+  Read("b\na\n");
+  program.ClickItem(form.Parse_listbox, 1);
+  program.Click(form.Add_global_parsing_list);
+  EXPECT_EQ(Items(), U"a;b;");
+  EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
+  // The deselection was an event: the searches would find nothing.
+  EXPECT_EQ(form.WorkState.ParseIndex.Number(), -1);
+  EXPECT_TRUE(form.User_Dialogue.Text ==
+              U"There is no global dictionary yet: it is made when the "
+              U"first term is added to it.");
+  disk.Refuse(DiskCall::kRead, "road.spd");
+  program.Click(form.Add_specific_parsing_list);
+  EXPECT_TRUE(form.User_Dialogue.Text == U"The dictionary of this text could not be read.");
+
+  disk.files["globaldict.gdf"] = "";
+  program.Click(form.Add_global_parsing_list);
+  EXPECT_EQ(Items(), U"a;b;");
+  EXPECT_TRUE(form.User_Dialogue.Text ==
+              U"The pre-defined global temporal operator terms have "
+              U"been added to the parsing list.");
+}
+
+TEST_F(ParsingList, TheOldestRemovalComesBackAndTheOthersAreGone) {
+  Read("a\nb\nc\nd\n");
+  program.Click(form.Parse_cull);
+  EXPECT_FALSE(form.Undo_Parse_Cull.Enabled);
+  Remove(1);
+  EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
+  // Removing raises no event: the last click's index stays.
+  EXPECT_EQ(form.WorkState.ParseIndex.Number(), 1);
+  Remove(0);
+  EXPECT_EQ(Items(), U"c;d;");
+  program.Click(form.Undo_Parse_Cull);
+  EXPECT_EQ(Items(), U"b;c;d;");
+  EXPECT_FALSE(form.Undo_Parse_Cull.Enabled);
+  EXPECT_EQ(form.TempList.ListCount(), 0);
+
+  Remove(2);
+  program.Click(form.Clear_list);
+  EXPECT_EQ(Items(), U"");
+  program.Click(form.Undo_Parse_Cull);
+  EXPECT_EQ(Items(), U"d;");
+}
+
+TEST_F(ParsingList, DeselectingKeepsNothingToSearchFor) {
+  Read("a\nb\n");
+  program.ClickItem(form.Parse_listbox, 1);
+  program.Click(form.Deselect_Parse_Cull);
+  EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
+  EXPECT_EQ(form.WorkState.ParseIndex.Number(), -1);
+}
+
+TEST_F(ParsingList, ReadingInOneGoIsAddingOneByOne) {
+  std::mt19937 random(7);
+  std::vector<std::u32string> lines;
+  for (int i = 0; i < 400; ++i) {
+    std::u32string line;
+    // Few letters, and two that collate as equal as one may: an order of adding shows.
+    for (unsigned length = random() % 4; length > 0; --length)
+      line += U"aAä\u0000\u200Db"[random() % 6];
+    lines.push_back(line);
+  }
+  ListBox& oneByOne = form.Parse_listbox;
+  for (const std::u32string& line : lines) oneByOne.AddItem(line);
+  const std::vector<std::u32string> expected = oneByOne.Items();
+  oneByOne.Clear();
+  const auto middle = lines.begin() + 150;
+  oneByOne.AddItems({lines.begin(), middle});
+  oneByOne.RemoveItem(3);
+  oneByOne.Clear();
+  oneByOne.AddItems({lines.begin(), middle});
+  oneByOne.AddItems({middle, lines.end()});
+  EXPECT_EQ(oneByOne.Items(), expected);
+}
+
+TEST_F(ParsingList, AFullListTakesNoMore) {
+  std::string bytes;
+  for (int i = 0; i < ListBox::kMostItems - 1; ++i) bytes += "b\\\n";
+  Read(bytes);
+  Read("c\\\na\\\n");
+  ASSERT_EQ(form.Parse_listbox.ListCount(), ListBox::kMostItems);
+  // One after the other: the first found room.
+  EXPECT_TRUE(form.Parse_listbox.Items().back() == U"c\\");
+  EXPECT_TRUE(form.Parse_listbox.Items().front() == U"b\\");
+}
+
+}  // namespace
+}  // namespace quill::test
