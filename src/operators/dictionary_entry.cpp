@@ -32,4 +32,13 @@ std::u32string FileForm(const OperatorEntry& entry) {
   return Written(entry, gap, U'\\');
 }
 
+ItemParts CutItem(std::u32string_view item) {
+  constexpr std::size_t kNone = std::u32string_view::npos;
+  const std::size_t first = item.find(U'\\');
+  if (first == kNone) return {.Lemma = std::nullopt, .Category = item.substr(0, 1)};
+  const std::size_t second = item.find_first_of(U"\\|", first + 1);
+  const std::size_t delimiter = second == kNone ? first : second;
+  return {.Lemma = item.substr(0, first), .Category = item.substr(delimiter + 1, 1)};
+}
+
 }  // namespace quill

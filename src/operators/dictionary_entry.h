@@ -7,6 +7,7 @@
 // delimiter. An entry that was read from a file stays in file form, so that both stand in the list.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,5 +29,14 @@ inline constexpr std::u32string_view kReservedCharacters = U"\\|<>";
 std::u32string ListForm(const OperatorEntry& entry);
 // Without the line end. The gap is as wide as is needed, and never narrower than one blank.
 std::u32string FileForm(const OperatorEntry& entry);
+
+// The parts of an item of Parse_listbox, of either form, as the searches take them. Views into it.
+struct ItemParts {
+  std::optional<std::u32string_view> Lemma;  // nothing in an item without a backslash
+  // Of one character; empty where the item ends before it. The item's first character where it has
+  // no backslash, the one behind the backslash where it has no second delimiter.
+  std::u32string_view Category;
+};
+ItemParts CutItem(std::u32string_view item);
 
 }  // namespace quill

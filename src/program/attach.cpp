@@ -5,6 +5,8 @@
 #include "info/modes.h"
 #include "marking/manual_marker.h"
 #include "marking/navigation.h"
+#include "operators/automatic_parsing.h"
+#include "operators/confirmed_parsing.h"
 #include "operators/dictionary_panel.h"
 #include "operators/parsing_list.h"
 #include "tags/tag_editor.h"
@@ -57,6 +59,9 @@ void AttachParsing(Form1& form) {
   form.Undo_Parse_Cull.Click = Undo_Parse_Cull_Click;
   form.Deselect_Parse_Cull.Click = Deselect_Parse_Cull_Click;
   form.Clear_list.Click = Clear_list_Click;
+  form.Parse_1.Click = Parse_1_Click;
+  form.Parse_2.Click = Parse_2_Click;
+  form.Parse_3.Click = Parse_3_Click;
 }
 
 void AttachPostFrame(Form1& form) {

@@ -37,6 +37,15 @@ Position FindFormat(const std::vector<FormatId>& ids, Range range, Wanted wanted
   return range.end;
 }
 
+// Behind the last of the ranges, as part of it where they touch.
+void AddTo(std::vector<Range>& ranges, Range range) {
+  if (!ranges.empty() && ranges.back().end == range.begin) {
+    ranges.back().end = range.end;
+  } else {
+    ranges.push_back(range);
+  }
+}
+
 bool EndsCell(const Origin& origin) { return origin.kind == Origin::kCellEnd; }
 bool EndsRow(const Origin& origin) { return origin.kind == Origin::kRowEnd; }
 
@@ -78,29 +87,34 @@ Position Document::FindOtherColour(Range range, Colour colour) const {
 }
 
 std::vector<Range> Document::Apply(Range range, const AttributeChange& change) {
+  return Apply(std::vector<Range>{range}, change);
+}
+
+std::vector<Range> Document::Apply(const std::vector<Range>& ranges,
+                                   const AttributeChange& change) {
   std::vector<Range> changed;
-  // The new number of every format met so far.
+  // The new number of every format met so far. Those that come of the change are not met again.
   std::vector<FormatId> renamed(formats_.Size(), kUnknown);
-  const std::size_t end = Index(range.end);
-  for (std::size_t at = Index(range.begin); at < end;) {
-    const FormatId old = formatIds_[at];
-    const std::size_t stop = EndOfStretch(formatIds_, at, end, old);
+  const auto renaming = [&](FormatId old) {
     if (renamed[old] == kUnknown) {
       Format format = formats_[old];
       format.now = Changed(format.now, change);
       renamed[old] = formats_.Add(format);
     }
-    if (renamed[old] != old) {
-      std::fill(formatIds_.begin() + static_cast<std::ptrdiff_t>(at),
-                formatIds_.begin() + static_cast<std::ptrdiff_t>(stop), renamed[old]);
-      const Range here{static_cast<Position>(at), static_cast<Position>(stop)};
-      if (!changed.empty() && changed.back().end == here.begin) {
-        changed.back().end = here.end;
-      } else {
-        changed.push_back(here);
+    return renamed[old];
+  };
+  for (const Range& range : ranges) {
+    for (std::size_t at = Index(range.begin); at < Index(range.end);) {
+      const FormatId old = formatIds_[at];
+      const std::size_t stop = EndOfStretch(formatIds_, at, Index(range.end), old);
+      const FormatId now = renaming(old);
+      if (now != old) {
+        std::fill(formatIds_.begin() + static_cast<std::ptrdiff_t>(at),
+                  formatIds_.begin() + static_cast<std::ptrdiff_t>(stop), now);
+        AddTo(changed, {static_cast<Position>(at), static_cast<Position>(stop)});
       }
+      at = stop;
     }
-    at = stop;
   }
   return changed;
 }

@@ -72,6 +72,8 @@ class Document {
 
   // Sets attributes and returns the ranges that really changed, in order, never touching.
   std::vector<Range> Apply(Range range, const AttributeChange& change);
+  // The same to many ranges, which must be in order and apart.
+  std::vector<Range> Apply(const std::vector<Range>& ranges, const AttributeChange& change);
 
   // Puts typed text in place of a range (either may be empty). The new characters take the given
   // attributes; the rest of their look is that of the first character replaced, or else of the

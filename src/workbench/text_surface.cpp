@@ -110,14 +110,18 @@ void TextSurface::Write(const AttributeChange& change) {
   if (selection_.Length() == 0) {
     Merge(remembered_, change);
   } else {
-    Apply(selection_, change);
+    Format({selection_}, change);
   }
 }
 
-void TextSurface::Apply(Range range, const AttributeChange& change) {
-  for (const Range& changed : document_.Apply(range, change)) {
+void TextSurface::Format(const std::vector<Range>& ranges, const AttributeChange& change) {
+  for (const Range& changed : document_.Apply(ranges, change)) {
     Form().TheWatcher().FormatChanged(changed);
   }
+}
+
+std::optional<Twips> TextSurface::CharOffset(Range range) const {
+  return Common(document_, range, &Attributes::offset);
 }
 
 Attributes TextSurface::TypingAttributes() const {
@@ -184,7 +188,7 @@ void TextSurface::TypeOver(std::u32string_view text) {
     history_.Add(std::move(edit));
   }
   const Position caret = over.begin + static_cast<Position>(typed.size());
-  Apply({over.begin, caret}, AllOf(attributes));
+  Format({{over.begin, caret}}, AllOf(attributes));
   remembered_ = {};
   Select({caret, caret});
 }

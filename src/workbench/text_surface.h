@@ -54,6 +54,12 @@ class TextSurface : public Control {
   // fractions are rounded to the nearest whole number.
   void SelectSpan(double start, double end);
 
+  // What selecting each range and writing to it would do, but for the selection. The ranges must
+  // lie inside the text, in order and apart.
+  void Format(const std::vector<Range>& ranges, const AttributeChange& change);
+  // What SelCharOffset would read with the range, not empty, selected.
+  std::optional<Twips> CharOffset(Range range) const;
+
   // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, where
   // the file cannot be read or is no text.
   void LoadFile(const std::u32string& path);
@@ -93,7 +99,6 @@ class TextSurface : public Control {
  private:
   void Select(Range range);
   void Write(const AttributeChange& change);
-  void Apply(Range range, const AttributeChange& change);
   void Step(bool forward);
 
   Document document_;

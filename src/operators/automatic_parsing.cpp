@@ -1,0 +1,146 @@
+#include "operators/automatic_parsing.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "operators/parse_item.h"
+#include "operators/term_search.h"
+#include "text/case_folding.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+enum class OperatorKind { kA, kB, kNone };
+
+OperatorKind KindOf(const WorkValue& category) {
+  if (category == U"A") return OperatorKind::kA;
+  if (category == U"B") return OperatorKind::kB;
+  return OperatorKind::kNone;
+}
+
+// One scan of the text for one item.
+struct Scan {
+  std::size_t term = 0;
+  OperatorKind kind = OperatorKind::kNone;
+};
+
+// The scans of a run, in the order of the list, and the distinct terms that they look for.
+class ScanList {
+ public:
+  void Add(std::u32string_view term, OperatorKind kind) {
+    const auto [entry, isNew] = numbers_.try_emplace(FoldCase(term), terms_.size());
+    if (isNew) terms_.push_back(entry->first);
+    scans_.push_back({entry->second, kind});
+  }
+  const std::vector<Scan>& Scans() const { return scans_; }
+  const std::vector<std::u32string>& Terms() const { return terms_; }
+
+ private:
+  std::unordered_map<std::u32string, std::size_t> numbers_;
+  std::vector<std::u32string> terms_;
+  std::vector<Scan> scans_;
+};
+
+using HitsByTerm = std::vector<std::vector<Range>>;
+
+HitsByTerm FindHits(const std::vector<std::u32string>& terms, const std::u32string& text) {
+  HitsByTerm hits(terms.size());
+  // A search is not begun where the text has no more than one character.
+  if (text.size() < 2) return hits;
+  for (const TermHit& hit : TermSearch(terms).Hits(text)) {
+    const auto length = static_cast<Position>(terms[hit.term].size());
+    hits[hit.term].push_back({hit.begin, hit.begin + length});
+  }
+  return hits;
+}
+
+// The scans whose marks may still be seen at the end. Two scans for one term hit the same
+// characters: a later one that writes all that the earlier wrote makes the earlier vain.
+std::vector<Scan> ScansThatLast(const std::vector<Scan>& scans, std::size_t terms) {
+  enum Later : char { kNothing, kWithoutKind, kWithKind };
+  std::vector<Later> later(terms, kNothing);
+  std::vector<Scan> lasting;
+  for (auto scan = scans.rbegin(); scan != scans.rend(); ++scan) {
+    const Later own = scan->kind == OperatorKind::kNone ? kWithoutKind : kWithKind;
+    if (later[scan->term] >= own) continue;
+    later[scan->term] = own;
+    lasting.push_back(*scan);
+  }
+  std::reverse(lasting.begin(), lasting.end());
+  return lasting;
+}
+
+void Mark(TextSurface& text, const std::vector<Range>& hits, OperatorKind kind) {
+  std::vector<Range> raised;
+  std::vector<Range> others;
+  for (const Range& hit : hits) {
+    (text.CharOffset(hit).value_or(0) > 0 ? raised : others).push_back(hit);
+  }
+  AttributeChange change;
+  if (kind == OperatorKind::kA) change.colour = RGB(128, 128, 255);
+  if (kind == OperatorKind::kB) change.colour = RGB(255, 0, 0);
+  if (kind != OperatorKind::kNone) {
+    change.bold = true;
+    text.Format(others, change);
+  }
+  change.bold = false;
+  text.Format(raised, change);
+}
+
+// Leaves ParsePos, TagStart and the caret where the scans, one after the other, leave them.
+void EndScans(Form1& form, const std::vector<Scan>& scans, const HitsByTerm& hits) {
+  const auto moved = std::find_if(scans.rbegin(), scans.rend(),
+                                  [&](const Scan& scan) { return !hits[scan.term].empty(); });
+  // Positions in the text count from 0 and ParsePos from 1: the caret stands one character behind
+  // the one that follows the hit.
+  if (moved != scans.rend()) form.RichTextBox1.SelStart = hits[moved->term].back().end + 1;
+
+  const Position length = form.RichTextBox1.Length();
+  form.WorkState.TextLen = length;
+  for (const Scan& scan : scans) {
+    const bool found = !hits[scan.term].empty();
+    const Position parsePos = found ? hits[scan.term].back().end + 1 : 1;
+    form.WorkState.ParsePos = parsePos;
+    if (parsePos < length) {
+      form.WorkState.TagStart = 0;
+    } else if (found) {
+      form.WorkState.TagStart = hits[scan.term].back().begin + 1;
+    }
+  }
+}
+
+// Scans the text for the items from `first` up to, not including, `last`.
+void Parse(Form1& form, int first, int last) {
+  ScanList list;
+  for (int item = first; item < last; ++item) {
+    TakeItem(form, item);
+    list.Add(form.WorkState.ParseTerm.Text(), KindOf(form.WorkState.ParseCategory));
+  }
+  const HitsByTerm hits = FindHits(list.Terms(), form.RichTextBox1.Text());
+  for (const Scan& scan : ScansThatLast(list.Scans(), list.Terms().size())) {
+    Mark(form.RichTextBox1, hits[scan.term], scan.kind);
+  }
+  EndScans(form, list.Scans(), hits);
+}
+
+}  // namespace
+
+void Parse_1_Click(Form1& form) {
+  if (!HasItems(form)) return;
+  form.Parse_listbox.ListIndex = 0;
+  const int last = form.Parse_listbox.ListCount() - 1;
+  if (last == 0) return;
+  Parse(form, 0, last);
+  form.Parse_listbox.ListIndex = last;
+}
+
+void Parse_2_Click(Form1& form) {
+  if (!HasItems(form) || !HasSelectedItem(form)) return;
+  const int item = static_cast<int>(form.WorkState.ParseIndex.Number());
+  Parse(form, item, item + 1);
+}
+
+}  // namespace quill

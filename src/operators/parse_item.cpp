@@ -1,0 +1,34 @@
+#include "operators/parse_item.h"
+
+#include "operators/dictionary_entry.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+constexpr int kOkOnly = 0;
+
+}  // namespace
+
+bool HasItems(Form1& form) {
+  if (form.Parse_listbox.ListCount() > 0) return true;
+  form.MsgBox(U"You have to read in or specify operator terms first.", kOkOnly, U"Input required");
+  return false;
+}
+
+bool HasSelectedItem(Form1& form) {
+  if (form.Parse_listbox.ListIndex != -1) return true;
+  form.MsgBox(U"Click on the operator you wish to parse for.", kOkOnly, U"Input required");
+  return false;
+}
+
+void TakeItem(Form1& form, int index) {
+  CarryOn([&] { form.WorkState.ParseLine = form.Parse_listbox.List(index); });
+  const std::u32string line = form.WorkState.ParseLine.Text();
+  const ItemParts parts = CutItem(line);
+  if (parts.Lemma) form.WorkState.ParseTerm = std::u32string(*parts.Lemma);
+  form.WorkState.ParseCategory = std::u32string(parts.Category);
+}
+
+}  // namespace quill

@@ -1,0 +1,141 @@
+#include "operators/term_search.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <numeric>
+
+namespace quill {
+namespace {
+
+constexpr std::uint32_t kNoTerm = std::numeric_limits<std::uint32_t>::max();
+// All rows together: eight megabytes, about what a processor keeps at hand.
+constexpr std::size_t kMostSuccessors = std::size_t{1} << 21U;
+
+// The sorted terms that share the beginning that a state stands for.
+struct Bundle {
+  std::size_t first = 0;
+  std::size_t last = 0;
+  std::size_t length = 0;  // of that beginning
+};
+
+}  // namespace
+
+TermSearch::TermSearch(const std::vector<std::u32string>& terms) {
+  for (const std::u32string& term : terms) {
+    for (const char32_t character : term) alphabet_.Add(character);
+    lengths_.push_back(static_cast<Position>(term.size()));
+  }
+  Grow(terms);
+  Connect();
+}
+
+TermSearch::State TermSearch::AddState(CharacterClass entry) {
+  entry_.push_back(entry);
+  term_.push_back(kNoTerm);
+  return static_cast<State>(entry_.size() - 1);
+}
+
+// Lays out the states level by level: a bundle of sorted terms splits by the next character.
+void TermSearch::Grow(const std::vector<std::u32string>& terms) {
+  std::vector<std::uint32_t> sorted(terms.size());
+  std::iota(sorted.begin(), sorted.end(), 0U);
+  std::sort(sorted.begin(), sorted.end(),
+            [&](std::uint32_t a, std::uint32_t b) { return terms[a] < terms[b]; });
+  std::vector<Bundle> bundles{{0, sorted.size(), 0}};
+  AddState(kForeign);
+  for (State state = kRoot; state < bundles.size(); ++state) {
+    auto [at, last, length] = bundles[state];
+    firstChild_.push_back(static_cast<State>(entry_.size()));
+    // The term that ends here is the first of those that begin so.
+    if (at < last && terms[sorted[at]].size() == length) {
+      if (length > 0) term_[state] = sorted[at];
+      ++at;
+    }
+    while (at < last) {
+      const char32_t next = terms[sorted[at]][length];
+      std::size_t end = at + 1;
+      while (end < last && terms[sorted[end]][length] == next) ++end;
+      AddState(alphabet_.Of(next));
+      bundles.push_back({at, end, length + 1});
+      at = end;
+    }
+  }
+  firstChild_.push_back(static_cast<State>(entry_.size()));
+}
+
+// Fallbacks, reports and rows, each from those of shorter beginnings, which come first.
+void TermSearch::Connect() {
+  const std::size_t states = entry_.size();
+  rowBits_ = static_cast<unsigned>(std::bit_width(alphabet_.Count() - 1));
+  rows_ = static_cast<State>(std::clamp<std::size_t>(kMostSuccessors >> rowBits_, 1, states));
+  successors_.assign(std::size_t{rows_} << rowBits_, kRoot);
+  fallback_.assign(states, kRoot);
+  report_.assign(states, kRoot);
+  for (State state = kRoot; state < states; ++state) {
+    report_[state] = term_[state] != kNoTerm ? state : report_[fallback_[state]];
+    for (State child = firstChild_[state]; child < firstChild_[state + 1]; ++child) {
+      fallback_[child] = state == kRoot ? kRoot : Step(fallback_[state], entry_[child]);
+    }
+    if (HasRow(state)) FillRow(state);
+  }
+}
+
+void TermSearch::FillRow(State state) {
+  const auto row = successors_.begin() + (std::ptrdiff_t{state} << rowBits_);
+  if (state != kRoot) {
+    const auto shorter = successors_.begin() + (std::ptrdiff_t{fallback_[state]} << rowBits_);
+    std::copy_n(shorter, std::size_t{1} << rowBits_, row);
+  }
+  for (State child = firstChild_[state]; child < firstChild_[state + 1]; ++child) {
+    row[entry_[child]] = child;
+  }
+}
+
+// kRoot where there is none.
+TermSearch::State TermSearch::Child(State state, CharacterClass next) const {
+  const auto first = entry_.begin() + firstChild_[state];
+  const auto last = entry_.begin() + firstChild_[state + 1];
+  const auto found = std::find(first, last, next);
+  return found == last ? kRoot : static_cast<State>(found - entry_.begin());
+}
+
+TermSearch::State TermSearch::Step(State state, CharacterClass next) const {
+  while (!HasRow(state)) {
+    const State child = Child(state, next);
+    if (child != kRoot) return child;
+    state = fallback_[state];
+  }
+  return successors_[(std::size_t{state} << rowBits_) + next];
+}
+
+std::vector<TermHit> TermSearch::Hits(std::u32string_view text) const {
+  std::vector<TermHit> hits;
+  const auto length = static_cast<Position>(text.size());
+  // Behind the last hit of every term.
+  std::vector<Position> free(lengths_.size(), 0);
+  State state = kRoot;
+  for (Position at = 0; at < length; ++at) {
+    state = Step(state, alphabet_.Of(text[static_cast<std::size_t>(at)]));
+    for (State found = report_[state]; found != kRoot; found = report_[fallback_[found]]) {
+      const std::uint32_t term = term_[found];
+      const Position begin = at + 1 - lengths_[term];
+      if (begin < free[term] || free[term] >= length - 1) continue;
+      free[term] = at + 1;
+      hits.push_back({begin, term});
+    }
+  }
+  return hits;
+}
+
+Position TermSearch::Next(std::u32string_view text, Position from) const {
+  State state = kRoot;
+  for (auto at = static_cast<std::size_t>(from); at < text.size(); ++at) {
+    state = Step(state, alphabet_.Of(text[at]));
+    const State found = report_[state];
+    if (found != kRoot) return static_cast<Position>(at) + 1 - lengths_[term_[found]];
+  }
+  return kNone;
+}
+
+}  // namespace quill
