@@ -3,8 +3,12 @@
 
 #include <algorithm>
 #include <random>
+#include <set>
 
+#include "operators/dictionary_entry.h"
+#include "support/scenario_folder.h"
 #include "support/workbench.h"
+#include "text/unicode.h"
 
 namespace quill::test {
 namespace {
@@ -127,6 +131,29 @@ TEST_F(ParsingList, AFullListTakesNoMore) {
   // One after the other: the first found room.
   EXPECT_TRUE(form.Parse_listbox.Items().back() == U"c\\");
   EXPECT_TRUE(form.Parse_listbox.Items().front() == U"b\\");
+}
+
+// Every line an entry in file form, and none twice.
+TEST_F(ParsingList, TheExampleDictionaryIsWellFormed) {
+  const std::string bytes =
+      Contents(OwnScenarios().parent_path().parent_path() / "examples" / "globaldict.gdf");
+  disk.files["globaldict.gdf"] = bytes;
+  program.Click(form.Add_global_parsing_list);
+  EXPECT_GE(form.Parse_listbox.ListCount(), 190);
+  std::set<std::u32string_view> lemmas;
+  for (const std::u32string& item : form.Parse_listbox.Items()) {
+    const ItemParts parts = CutItem(item);
+    ASSERT_TRUE(parts.Lemma) << ToUtf8(item);
+    EXPECT_TRUE(parts.Category == U"A" || parts.Category == U"B") << ToUtf8(item);
+    EXPECT_TRUE(lemmas.insert(*parts.Lemma).second) << "twice: " << ToUtf8(item);
+    const std::size_t opening = item.find(U"< ");
+    ASSERT_NE(opening, std::u32string::npos) << ToUtf8(item);
+    const std::u32string definition = item.substr(opening + 2, item.size() - opening - 4);
+    const OperatorEntry entry{std::u32string(*parts.Lemma), std::u32string(parts.Category),
+                              definition};
+    EXPECT_TRUE(FileForm(entry) == item) << ToUtf8(item);
+    EXPECT_NE(bytes.find(ToUtf8(item) + "\r\n"), std::string::npos) << ToUtf8(item);
+  }
 }
 
 }  // namespace

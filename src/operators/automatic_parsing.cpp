@@ -30,10 +30,12 @@ struct Scan {
 // The scans of a run, in the order of the list, and the distinct terms that they look for.
 class ScanList {
  public:
-  void Add(std::u32string_view term, OperatorKind kind) {
-    const auto [entry, isNew] = numbers_.try_emplace(FoldCase(term), terms_.size());
+  // For the item that the record of working state holds.
+  void Add(const WorkState& state) {
+    const auto [entry, isNew] =
+        numbers_.try_emplace(FoldCase(state.ParseTerm.Text()), terms_.size());
     if (isNew) terms_.push_back(entry->first);
-    scans_.push_back({entry->second, kind});
+    scans_.push_back({entry->second, KindOf(state.ParseCategory)});
   }
   const std::vector<Scan>& Scans() const { return scans_; }
   const std::vector<std::u32string>& Terms() const { return terms_; }
@@ -98,27 +100,20 @@ void EndScans(Form1& form, const std::vector<Scan>& scans, const HitsByTerm& hit
   // the one that follows the hit.
   if (moved != scans.rend()) form.RichTextBox1.SelStart = hits[moved->term].back().end + 1;
 
-  const Position length = form.RichTextBox1.Length();
-  form.WorkState.TextLen = length;
+  const double textLen = form.WorkState.TextLen.Number();
   for (const Scan& scan : scans) {
-    const bool found = !hits[scan.term].empty();
-    const Position parsePos = found ? hits[scan.term].back().end + 1 : 1;
+    const std::vector<Range>& found = hits[scan.term];
+    const Position parsePos = found.empty() ? 1 : found.back().end + 1;
     form.WorkState.ParsePos = parsePos;
-    if (parsePos < length) {
+    if (static_cast<double>(parsePos) < textLen) {
       form.WorkState.TagStart = 0;
-    } else if (found) {
-      form.WorkState.TagStart = hits[scan.term].back().begin + 1;
+    } else if (!found.empty()) {
+      form.WorkState.TagStart = found.back().begin + 1;
     }
   }
 }
 
-// Scans the text for the items from `first` up to, not including, `last`.
-void Parse(Form1& form, int first, int last) {
-  ScanList list;
-  for (int item = first; item < last; ++item) {
-    TakeItem(form, item);
-    list.Add(form.WorkState.ParseTerm.Text(), KindOf(form.WorkState.ParseCategory));
-  }
+void Parse(Form1& form, const ScanList& list) {
   const HitsByTerm hits = FindHits(list.Terms(), form.RichTextBox1.Text());
   for (const Scan& scan : ScansThatLast(list.Scans(), list.Terms().size())) {
     Mark(form.RichTextBox1, hits[scan.term], scan.kind);
@@ -130,17 +125,30 @@ void Parse(Form1& form, int first, int last) {
 
 void Parse_1_Click(Form1& form) {
   if (!HasItems(form)) return;
-  form.Parse_listbox.ListIndex = 0;
-  const int last = form.Parse_listbox.ListCount() - 1;
-  if (last == 0) return;
-  Parse(form, 0, last);
-  form.Parse_listbox.ListIndex = last;
+  ListBox& list = form.Parse_listbox;
+  list.ListIndex = 0;
+  ScanList scans;
+  while (list.ListIndex < list.ListCount() - 1) {
+    TakeItem(form);
+    scans.Add(form.WorkState);
+    SelectNextParseItem(form);
+  }
+  Parse(form, scans);
 }
 
 void Parse_2_Click(Form1& form) {
   if (!HasItems(form) || !HasSelectedItem(form)) return;
-  const int item = static_cast<int>(form.WorkState.ParseIndex.Number());
-  Parse(form, item, item + 1);
+  TakeItem(form);
+  ScanList scans;
+  scans.Add(form.WorkState);
+  Parse(form, scans);
+}
+
+void SelectNextParseItem(Form1& form) {
+  const double last = form.Parse_listbox.ListCount() - 1;
+  if (last < 0 || form.WorkState.ParseIndex.Number() == last) return;
+  form.WorkState.ParseIndex = form.WorkState.ParseIndex + 1;
+  form.Parse_listbox.ListIndex = static_cast<int>(form.WorkState.ParseIndex.Number());
 }
 
 }  // namespace quill

@@ -15,5 +15,7 @@ class Form1;
 void Parse_1_Click(Form1& form);
 // The selected item.
 void Parse_2_Click(Form1& form);
+// Selects the item behind the one that was selected last; at the end of the list does nothing.
+void SelectNextParseItem(Form1& form);
 
 }  // namespace quill

@@ -68,9 +68,7 @@ void ScanForTerm(Form1& form) {
 
 void Parse_3_Click(Form1& form) {
   if (!HasItems(form) || !HasSelectedItem(form)) return;
-  TakeItem(form, static_cast<int>(form.WorkState.ParseIndex.Number()));
-  form.WorkState.ParsePos = 1;
-  form.WorkState.TextLen = form.RichTextBox1.Length();
+  TakeItem(form);
   ScanForTerm(form);
 }
 

@@ -10,16 +10,13 @@ namespace {
 // Counted from 1.
 constexpr std::size_t kSecondBackslashColumn = 20;
 
-std::u32string OneLine(std::u32string lemma) {
-  std::replace_if(
-      lemma.begin(), lemma.end(), [](char32_t c) { return c == kParagraphEnd || c == kLineBreak; },
-      U' ');
-  return lemma;
-}
+bool BreaksLine(char32_t c) { return c == kParagraphEnd || c == U'\r' || c == kLineBreak; }
 
 std::u32string Written(const OperatorEntry& entry, std::size_t gap, char32_t secondDelimiter) {
-  return OneLine(entry.Lemma) + U"\\" + std::u32string(gap, U' ') + secondDelimiter +
-         entry.Category + U"< " + entry.Definition + U" >";
+  std::u32string written = entry.Lemma + U"\\" + std::u32string(gap, U' ') + secondDelimiter +
+                           entry.Category + U"< " + entry.Definition + U" >";
+  std::replace_if(written.begin(), written.end(), BreaksLine, U' ');
+  return written;
 }
 
 }  // namespace

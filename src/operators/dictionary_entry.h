@@ -25,7 +25,7 @@ inline constexpr std::u32string_view kGlobalDictionary = U"globaldict.gdf";
 // The characters that no lemma may hold.
 inline constexpr std::u32string_view kReservedCharacters = U"\\|<>";
 
-// Line breaks of the lemma become blanks, so that an entry is one line.
+// Line breaks become blanks, so that an entry is one line.
 std::u32string ListForm(const OperatorEntry& entry);
 // Without the line end. The gap is as wide as is needed, and never narrower than one blank.
 std::u32string FileForm(const OperatorEntry& entry);

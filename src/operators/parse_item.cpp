@@ -23,12 +23,17 @@ bool HasSelectedItem(Form1& form) {
   return false;
 }
 
-void TakeItem(Form1& form, int index) {
-  CarryOn([&] { form.WorkState.ParseLine = form.Parse_listbox.List(index); });
+void TakeItem(Form1& form) {
+  CarryOn([&] {
+    const int index = static_cast<int>(form.WorkState.ParseIndex.Number());
+    form.WorkState.ParseLine = form.Parse_listbox.List(index);
+  });
   const std::u32string line = form.WorkState.ParseLine.Text();
   const ItemParts parts = CutItem(line);
   if (parts.Lemma) form.WorkState.ParseTerm = std::u32string(*parts.Lemma);
   form.WorkState.ParseCategory = std::u32string(parts.Category);
+  form.WorkState.ParsePos = 1;
+  form.WorkState.TextLen = form.RichTextBox1.Length();
 }
 
 }  // namespace quill

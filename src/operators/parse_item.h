@@ -9,8 +9,8 @@ class Form1;
 bool HasItems(Form1& form);
 bool HasSelectedItem(Form1& form);
 
-// Sets ParseLine, ParseTerm and ParseCategory from an item. An item without a backslash leaves the
-// former term.
-void TakeItem(Form1& form, int index);
+// Sets ParseLine, ParseTerm and ParseCategory from the item at ParseIndex, and sets out at the
+// text's beginning. An item without a backslash leaves the former term.
+void TakeItem(Form1& form);
 
 }  // namespace quill

@@ -1,7 +1,6 @@
 #include "operators/term_search.h"
 
 #include <algorithm>
-#include <bit>
 #include <limits>
 #include <numeric>
 
@@ -10,7 +9,7 @@ namespace {
 
 constexpr std::uint32_t kNoTerm = std::numeric_limits<std::uint32_t>::max();
 // All rows together: eight megabytes, about what a processor keeps at hand.
-constexpr std::size_t kMostSuccessors = std::size_t{1} << 21U;
+constexpr std::size_t kMostMoves = std::size_t{1} << 21U;
 
 // The sorted terms that share the beginning that a state stands for.
 struct Bundle {
@@ -67,28 +66,25 @@ void TermSearch::Grow(const std::vector<std::u32string>& terms) {
 // Fallbacks, reports and rows, each from those of shorter beginnings, which come first.
 void TermSearch::Connect() {
   const std::size_t states = entry_.size();
-  rowBits_ = static_cast<unsigned>(std::bit_width(alphabet_.Count() - 1));
-  rows_ = static_cast<State>(std::clamp<std::size_t>(kMostSuccessors >> rowBits_, 1, states));
-  successors_.assign(std::size_t{rows_} << rowBits_, kRoot);
+  width_ = alphabet_.Count();
+  rows_ = static_cast<State>(std::clamp<std::size_t>(kMostMoves / width_, 1, states));
   fallback_.assign(states, kRoot);
   report_.assign(states, kRoot);
+  moves_.assign(rows_ * width_, MoveTo(kRoot));
   for (State state = kRoot; state < states; ++state) {
-    report_[state] = term_[state] != kNoTerm ? state : report_[fallback_[state]];
     for (State child = firstChild_[state]; child < firstChild_[state + 1]; ++child) {
-      fallback_[child] = state == kRoot ? kRoot : Step(fallback_[state], entry_[child]);
+      if (state != kRoot) fallback_[child] = Target(Step(fallback_[state], entry_[child]));
+      report_[child] = term_[child] != kNoTerm ? child : report_[fallback_[child]];
     }
     if (HasRow(state)) FillRow(state);
   }
 }
 
 void TermSearch::FillRow(State state) {
-  const auto row = successors_.begin() + (std::ptrdiff_t{state} << rowBits_);
-  if (state != kRoot) {
-    const auto shorter = successors_.begin() + (std::ptrdiff_t{fallback_[state]} << rowBits_);
-    std::copy_n(shorter, std::size_t{1} << rowBits_, row);
-  }
+  Move* const row = &moves_[state * width_];
+  if (state != kRoot) std::copy_n(&moves_[fallback_[state] * width_], width_, row);
   for (State child = firstChild_[state]; child < firstChild_[state + 1]; ++child) {
-    row[entry_[child]] = child;
+    row[entry_[child]] = MoveTo(child);
   }
 }
 
@@ -100,13 +96,13 @@ TermSearch::State TermSearch::Child(State state, CharacterClass next) const {
   return found == last ? kRoot : static_cast<State>(found - entry_.begin());
 }
 
-TermSearch::State TermSearch::Step(State state, CharacterClass next) const {
+TermSearch::Move TermSearch::Step(State state, CharacterClass next) const {
   while (!HasRow(state)) {
     const State child = Child(state, next);
-    if (child != kRoot) return child;
+    if (child != kRoot) return MoveTo(child);
     state = fallback_[state];
   }
-  return successors_[(std::size_t{state} << rowBits_) + next];
+  return moves_[state * width_ + next];
 }
 
 std::vector<TermHit> TermSearch::Hits(std::u32string_view text) const {
@@ -114,11 +110,12 @@ std::vector<TermHit> TermSearch::Hits(std::u32string_view text) const {
   const auto length = static_cast<Position>(text.size());
   // Behind the last hit of every term.
   std::vector<Position> free(lengths_.size(), 0);
-  State state = kRoot;
+  Move move = MoveTo(kRoot);
   for (Position at = 0; at < length; ++at) {
-    state = Step(state, alphabet_.Of(text[static_cast<std::size_t>(at)]));
-    for (State found = report_[state]; found != kRoot; found = report_[fallback_[found]]) {
-      const std::uint32_t term = term_[found];
+    move = Step(Target(move), alphabet_.Of(text[static_cast<std::size_t>(at)]));
+    if (!Reports(move)) continue;
+    for (State end = report_[Target(move)]; end != kRoot; end = report_[fallback_[end]]) {
+      const std::uint32_t term = term_[end];
       const Position begin = at + 1 - lengths_[term];
       if (begin < free[term] || free[term] >= length - 1) continue;
       free[term] = at + 1;
@@ -129,11 +126,11 @@ std::vector<TermHit> TermSearch::Hits(std::u32string_view text) const {
 }
 
 Position TermSearch::Next(std::u32string_view text, Position from) const {
-  State state = kRoot;
+  Move move = MoveTo(kRoot);
   for (auto at = static_cast<std::size_t>(from); at < text.size(); ++at) {
-    state = Step(state, alphabet_.Of(text[at]));
-    const State found = report_[state];
-    if (found != kRoot) return static_cast<Position>(at) + 1 - lengths_[term_[found]];
+    move = Step(Target(move), alphabet_.Of(text[at]));
+    if (!Reports(move)) continue;
+    return static_cast<Position>(at) + 1 - lengths_[term_[report_[Target(move)]]];
   }
   return kNone;
 }

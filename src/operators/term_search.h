@@ -41,19 +41,25 @@ class TermSearch {
  private:
   using State = std::uint32_t;
   static constexpr State kRoot = 0;
+  // Where a character leads: a state, and in the lowest bit whether a term ends there. So a search
+  // reads one number a character, and that is what it waits for.
+  using Move = std::uint32_t;
+  static State Target(Move move) { return move >> 1U; }
+  static bool Reports(Move move) { return (move & 1U) != 0; }
 
   void Grow(const std::vector<std::u32string>& terms);
   void Connect();
   State AddState(CharacterClass entry);
   void FillRow(State state);
   State Child(State state, CharacterClass next) const;
-  State Step(State state, CharacterClass next) const;
+  Move MoveTo(State state) const { return state << 1U | (report_[state] != kRoot ? 1U : 0U); }
+  Move Step(State state, CharacterClass next) const;
   bool HasRow(State state) const { return state < rows_; }
 
   CharacterClasses alphabet_;
-  unsigned rowBits_ = 0;               // a row has two to this power of entries
+  std::size_t width_ = 0;              // of a row
   State rows_ = 0;                     // how many states have a row
-  std::vector<State> successors_;      // the rows
+  std::vector<Move> moves_;            // the rows, by the class of the next character
   std::vector<State> firstChild_;      // the children of a state follow one another; one entry more
   std::vector<CharacterClass> entry_;  // by which character a state is entered
   std::vector<State> fallback_;        // the longest proper ending that is a beginning too
