@@ -9,8 +9,12 @@
 #include "operators/confirmed_parsing.h"
 #include "operators/dictionary_panel.h"
 #include "operators/parsing_list.h"
+#include "tags/reference_tag.h"
+#include "tags/tag_check.h"
 #include "tags/tag_editor.h"
 #include "tags/tag_generation.h"
+#include "tags/tag_removal.h"
+#include "tags/tag_selection.h"
 
 namespace quill {
 namespace {
@@ -75,6 +79,10 @@ void AttachPostFrame(Form1& form) {
   form.GranCombo.Click = GranCombo_Click;
   form.ValBox.Change = ValBox_Change;
   form.Generate_Tag.Click = Generate_Tag_Click;
+  form.RefTag.Click = RefTag_Click;
+  form.TagList.Click = TagList_Click;
+  form.TagChecker.Click = TagChecker_Click;
+  form.RemoveItem.Click = RemoveItem_Click;
 }
 
 }  // namespace

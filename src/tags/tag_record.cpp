@@ -1,5 +1,7 @@
 #include "tags/tag_record.h"
 
+#include <algorithm>
+
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
@@ -55,22 +57,28 @@ std::u32string ComposeTag(const Form1& form) {
   });
 }
 
-TagFields CutTag(std::u32string_view line) {
+TagFields CutTag(std::u32string_view line, std::size_t count) {
   TagFields fields;
   std::size_t start = kOpening.size();
   std::size_t searchFrom = 0;
   std::size_t closingFrom = kMissing;
-  for (std::size_t i = 0; i < TagField::kRefStop; ++i) {
+  for (std::size_t i = 0; i < std::min<std::size_t>(count, TagField::kRefStop); ++i) {
     const std::size_t separator = FindFrom(line, U'\\', searchFrom);
     fields[i] = Between(line, start, separator);
     closingFrom = searchFrom;
     searchFrom = Behind(separator);
     start = separator == kMissing ? kMissing : separator + kSeparator.size();
   }
+  if (count < TagField::kCount) return fields;
   // The parenthesis is searched behind the last separator but one, so that one that stands in the
   // last field but one leaves the last field empty.
   fields[TagField::kRefStop] = Between(line, start, FindFrom(line, U')', closingFrom));
   return fields;
+}
+
+TagSpan CutTagSpan(std::u32string_view line) {
+  const TagFields fields = CutTag(line, TagField::kEnd + 1);
+  return {Val(fields[TagField::kStart]), Val(fields[TagField::kEnd])};
 }
 
 double CutTagNumber(std::u32string_view line) {

@@ -48,8 +48,16 @@ std::u32string ComposeTag(const Form1& form);
 
 // Views into the line. A missing separator makes all later ones missing; a field whose separators
 // are missing, or stand in no order, is empty. The last field keeps the blank of the closing " )".
-// Numbers among the fields are to be read with Val.
-TagFields CutTag(std::u32string_view line);
+// Numbers among the fields are to be read with Val. Only the first `count` fields are cut; the
+// others stay empty.
+TagFields CutTag(std::u32string_view line, std::size_t count = TagField::kCount);
+
+// Where a tag's term stands: its first and last character, 1-based. 0 for what cannot be cut.
+struct TagSpan {
+  double start = 0;
+  double end = 0;
+};
+TagSpan CutTagSpan(std::u32string_view line);
 
 // The number of a tag, cut in the way of the numbering: between the first "(" and the first "\".
 // Fails (StatementFailed) where that is not decimal digits only.

@@ -1,0 +1,65 @@
+#include "tags/tag_removal.h"
+
+#include <optional>
+#include <string>
+
+#include "tags/tag_editor.h"
+#include "tags/tag_list_file.h"
+#include "tags/tag_record.h"
+#include "tags/tag_selection.h"
+#include "workbench/failure.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// The first line that tags the same word, wherever in the text it stands.
+std::optional<int> FindTagOf(const ListBox& list, std::u32string_view term) {
+  for (int i = 0; i < list.ListCount(); ++i) {
+    if (CutTag(list.List(i), TagField::kTerm + 1)[TagField::kTerm] == term) return i;
+  }
+  return std::nullopt;
+}
+
+void ShowOtherTag(Form1& form, int index) {
+  form.TagList.ListIndex = index;
+  TagList_Click(form);
+  form.RichTextBox1.SelColor =
+      form.OperatorCombo.Text == U"a_operator" ? RGB(0, 0, 255) : RGB(255, 0, 0);
+}
+
+void MakePlain(TextSurface& text, Range span) {
+  text.SelStart = span.begin;
+  text.SelLength = span.Length();
+  text.SelCharOffset = 0;
+  text.SelColor = RGB(0, 0, 0);
+  text.SelBold = false;
+}
+
+}  // namespace
+
+void RemoveItem_Click(Form1& form) {
+  if (form.TagList.ListIndex == -1) return;
+  const std::u32string line = form.TagList.List(form.TagList.ListIndex);
+  form.WorkState.CurrentTag = line;
+  form.TagList.RemoveItem(form.TagList.ListIndex);
+  const TagSpan span = CutTagSpan(line);
+  form.RichTextBox1.SelectSpan(span.start, span.end);
+  const Range removed = form.RichTextBox1.Selection();
+  if (const auto other = FindTagOf(form.TagList, form.RichTextBox1.SelText())) {
+    ShowOtherTag(form, *other);
+  } else {
+    MakePlain(form.RichTextBox1, removed);
+    ResetTagEditor(form);
+  }
+  constexpr int kOkCancelQuestion = 33;
+  constexpr int kOk = 1;
+  if (form.MsgBox(U"Do you want to save this change?", kOkCancelQuestion, U"Input required") !=
+      kOk) {
+    return;
+  }
+  CarryOn([&] { RewriteTagListFile(form); });
+  form.RemoveItem.Enabled = false;
+}
+
+}  // namespace quill
