@@ -30,7 +30,11 @@ struct TagGeneration : testing::Test, Workbench {
     form.TagList.Clear();
     for (const int number : numbers) form.TagList.AddItem(Line(number));
   }
-  static std::u32string Line(int number) { return U"t_op(" + DecimalText(number) + U"\\ 1\\ 2\\ "; }
+  static std::u32string Line(int number) {
+    return U"t_op(" + DecimalText(number) +
+           U"\\ 5\\ 7\\ two\\ S\\ U\\ lexematic\\ a_operator\\ absolute \\ at\\ d \\ 1\\ Reference "
+           U"Tag\\  \\   )";
+  }
   std::string Numbers() const {
     std::string numbers;
     for (const std::u32string& line : form.TagList.Items()) {

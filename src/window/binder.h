@@ -24,7 +24,9 @@ class Binder {
   virtual void Show() = 0;
   // Gives the widget the keyboard focus, as the program moved it there.
   virtual void TakeFocus() {}
-  // The items of a list have changed since it was last shown.
+  // The items of a list have changed since it was last shown; in the order of the changes.
+  virtual void ItemInserted(int /*index*/) {}
+  virtual void ItemRemoved(int /*index*/) {}
   virtual void ItemsChanged() {}
 };
 

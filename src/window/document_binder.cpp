@@ -162,7 +162,8 @@ void DocumentBinder::ShowSelection(bool edited) {
   if (!same) view_.setTextCursor(wanted);
   if (edited) {
     view_.ensureCursorVisible();
-  } else if (!same) {
+  } else if (!view_.IsReporting()) {
+    // Also what is selected already: the user may have scrolled it away.
     view_.Reveal(range);
   }
   view_.viewport()->update();

@@ -25,6 +25,8 @@ class DocumentView final : public QTextEdit {
 
   // Scrolls so that a range is seen with some lines around it; nothing where it is seen so.
   void Reveal(Range range);
+  // Whether the selection that is to be shown is the one that the user makes here.
+  bool IsReporting() const { return reporting_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -68,6 +70,7 @@ class DocumentView final : public QTextEdit {
   PositionMap positions_;
   QBasicTimer blink_;
   bool caretOn_ = false;
+  bool reporting_ = false;
   int preeditCaret_ = -1;  // inside the preedit text; -1 without one
 };
 

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <functional>
+#include <numeric>
 
 #include "window/appearance.h"
 #include "window/shown.h"
@@ -14,52 +15,77 @@
 namespace quill {
 namespace {
 
-// The items as they were last shown. All rows tell the size of the largest, so that the view need
-// not ask each one.
+// A wide character, as of Chinese, takes the room of two.
+constexpr char32_t kFirstWide = 0x1100;
+
+int Weight(std::u32string_view item) {
+  return static_cast<int>(item.size()) +
+         static_cast<int>(
+             std::count_if(item.begin(), item.end(), [](char32_t c) { return c >= kFirstWide; }));
+}
+
+QString Shown(std::u32string_view item) {
+  return ToQt(item).replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+// The items of the list, without a copy: what was shown last differs from the list only by changes
+// that are to be followed before anything is painted. All rows tell the size of the largest, so
+// that the view need not ask each one.
 class Rows : public QAbstractListModel {
  public:
-  using QAbstractListModel::QAbstractListModel;
+  Rows(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
 
-  void Set(const std::vector<std::u32string>& items, const QFontMetrics& metrics) {
+  void Reset() {
     beginResetModel();
-    rows_.clear();
-    rows_.reserve(static_cast<qsizetype>(items.size()));
-    for (const std::u32string& item : items) {
-      rows_.push_back(ToQt(item).replace(QLatin1Char('\n'), QLatin1Char(' ')));
-    }
-    size_ = QSize(Width(metrics), metrics.height() + 3);
+    weights_.clear();
+    weights_.reserve(list_.Items().size());
+    for (const std::u32string& item : list_.Items()) weights_.push_back(Weight(item));
     endResetModel();
   }
+  void Follow(const ItemChange& change) {
+    const auto place = weights_.begin() + change.index;
+    if (change.inserted) {
+      beginInsertRows({}, change.index, change.index);
+      weights_.insert(place, change.weight);
+      endInsertRows();
+    } else {
+      beginRemoveRows({}, change.index, change.index);
+      weights_.erase(place);
+      endRemoveRows();
+    }
+  }
+  void Measure(const QFontMetrics& metrics) { size_ = QSize(Width(metrics), metrics.height() + 3); }
 
   int rowCount(const QModelIndex& parent) const override {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+    return parent.isValid() ? 0 : static_cast<int>(weights_.size());
   }
 
   QVariant data(const QModelIndex& index, int role) const override {
     if (role == Qt::SizeHintRole) return size_;
-    if (role == Qt::DisplayRole) return rows_[index.row()];
-    return {};
+    if (role != Qt::DisplayRole || index.row() >= list_.ListCount()) return {};
+    return Shown(list_.List(index.row()));
   }
 
  private:
-  // Of the widest row, which is among the longest: measuring every row takes too long.
+  // Of the widest row, which is among the heaviest: measuring every row takes too long.
   int Width(const QFontMetrics& metrics) const {
-    constexpr qsizetype kMeasured = 16;
-    std::vector<const QString*> longest;
-    longest.reserve(static_cast<std::size_t>(rows_.size()));
-    for (const QString& row : rows_) longest.push_back(&row);
-    const auto end = longest.begin() + std::min(kMeasured, rows_.size());
-    std::partial_sort(longest.begin(), end, longest.end(),
-                      [](const QString* a, const QString* b) { return a->size() > b->size(); });
+    constexpr std::size_t kMeasured = 16;
+    std::vector<int> rows(weights_.size());
+    std::iota(rows.begin(), rows.end(), 0);
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(kMeasured, rows.size()));
+    std::partial_sort(rows.begin(), end, rows.end(), [this](int a, int b) {
+      return weights_[static_cast<std::size_t>(a)] > weights_[static_cast<std::size_t>(b)];
+    });
     int width = 0;
-    for (auto row = longest.begin(); row != end; ++row) {
-      width = std::max(width, metrics.horizontalAdvance(**row));
+    for (auto row = rows.begin(); row != end; ++row) {
+      width = std::max(width, metrics.horizontalAdvance(Shown(list_.List(*row))));
     }
     constexpr int kMargins = 12;
     return width + kMargins;
   }
 
-  QList<QString> rows_;
+  const ListBox& list_;
+  std::vector<int> weights_;  // of the rows on show
   QSize size_;
 };
 
@@ -68,7 +94,7 @@ class Rows : public QAbstractListModel {
 // Tells which item the user chose, with the mouse or with the keys.
 class ListView : public QListView {
  public:
-  explicit ListView(QWidget& parent) : QListView(&parent), rows_(new Rows(this)) {
+  ListView(QWidget& parent, const ListBox& list) : QListView(&parent), rows_(new Rows(list, this)) {
     setModel(rows_);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
@@ -83,15 +109,14 @@ class ListView : public QListView {
     return selected.empty() ? -1 : selected.front().row();
   }
 
-  void SetItems(const std::vector<std::u32string>& items) {
-    const int left = horizontalScrollBar()->value();
-    const int top = verticalScrollBar()->value();
-    rows_->Set(items, fontMetrics());
-    doItemsLayout();
-    horizontalScrollBar()->setValue(left);
-    verticalScrollBar()->setValue(top);
+  void Reset() {
+    KeepPlace([this] { rows_->Reset(); });
   }
-
+  void Follow(const std::vector<ItemChange>& changes) {
+    KeepPlace([&] {
+      for (const ItemChange& change : changes) rows_->Follow(change);
+    });
+  }
   void SelectRow(int row) {
     if (row < 0) {
       selectionModel()->clear();
@@ -120,14 +145,26 @@ class ListView : public QListView {
   }
 
  private:
+  template <class Change>
+  void KeepPlace(Change&& change) {
+    const int left = horizontalScrollBar()->value();
+    const int top = verticalScrollBar()->value();
+    change();
+    rows_->Measure(fontMetrics());
+    doItemsLayout();
+    horizontalScrollBar()->setValue(left);
+    verticalScrollBar()->setValue(top);
+  }
+
   Rows* rows_;
 };
 
 ListBoxBinder::ListBoxBinder(ListBox& list, QWidget& container, Actions& actions)
-    : ListBoxBinder(list, *new ListView(container), actions) {}
+    : ListBoxBinder(list, *new ListView(container, list), actions) {}
 
 ListBoxBinder::ListBoxBinder(ListBox& list, ListView& view, Actions& actions)
     : WidgetBinder(list, view, actions), list_(list), view_(view) {
+  view.Reset();
   SetColours(view, BackgroundOf(list.Row()), ToQColor(list.Row().stored.foreColor));
   view.chosen = [this](int row) {
     TheActions().Do([&](Program& program) { program.ClickItem(list_, row); });
@@ -137,9 +174,25 @@ ListBoxBinder::ListBoxBinder(ListBox& list, ListView& view, Actions& actions)
 
 void ListBoxBinder::Show() {
   WidgetBinder::Show();
-  if (changed_) view_.SetItems(list_.Items());
-  if (changed_ || view_.SelectedRow() != list_.ListIndex) view_.SelectRow(list_.ListIndex);
-  changed_ = false;
+  if (changes_.size() > kMostSingleChanges) {
+    view_.Reset();
+  } else if (!changes_.empty()) {
+    view_.Follow(changes_);
+  }
+  changes_.clear();
+  // Also where it is selected already: the user may have scrolled it away.
+  view_.SelectRow(list_.ListIndex);
 }
+
+void ListBoxBinder::ItemInserted(int index) {
+  if (changes_.size() > kMostSingleChanges) return;
+  changes_.push_back({true, index, Weight(list_.List(index))});
+}
+
+void ListBoxBinder::ItemRemoved(int index) {
+  if (changes_.size() <= kMostSingleChanges) changes_.push_back({false, index, 0});
+}
+
+void ListBoxBinder::ItemsChanged() { changes_.assign(kMostSingleChanges + 1, {}); }
 
 }  // namespace quill

@@ -1,5 +1,8 @@
-// List boxes: quick with as many items as a list can hold.
+// List boxes: quick with as many items as a list can hold. The selected item is scrolled into view
+// whenever the program selects it, and the view scrolls sideways to the end of the longest.
 #pragma once
+
+#include <vector>
 
 #include "window/binder.h"
 
@@ -7,18 +10,29 @@ namespace quill {
 
 class ListView;
 
+struct ItemChange {
+  bool inserted = false;  // else removed
+  int index = 0;
+  int weight = 0;  // of the text inserted: a measure of its width
+};
+
 class ListBoxBinder final : public WidgetBinder {
  public:
   ListBoxBinder(ListBox& list, QWidget& container, Actions& actions);
   void Show() override;
-  void ItemsChanged() override { changed_ = true; }
+  void ItemInserted(int index) override;
+  void ItemRemoved(int index) override;
+  void ItemsChanged() override;
 
  private:
   ListBoxBinder(ListBox& list, ListView& view, Actions& actions);
 
+  // More changes than these are shown as a new list.
+  static constexpr std::size_t kMostSingleChanges = 8;
+
   ListBox& list_;
   ListView& view_;
-  bool changed_ = true;
+  std::vector<ItemChange> changes_;  // since the list was last shown
 };
 
 }  // namespace quill

@@ -41,8 +41,18 @@ void Updates::PropertyChanged(Control& control, PropertyId /*property*/) {
   }
 }
 
+void Updates::ItemInserted(ListBox& list, int index) {
+  BinderOf(list).ItemInserted(index);
+  Touch(list);
+}
+
+void Updates::ItemRemoved(ListBox& list, int index) {
+  BinderOf(list).ItemRemoved(index);
+  Touch(list);
+}
+
 void Updates::ItemsChanged(ListBox& list) {
-  binders_.at(&list)->ItemsChanged();
+  BinderOf(list).ItemsChanged();
   Touch(list);
 }
 

@@ -31,6 +31,8 @@ class Updates final : public Watcher {
 
   void PropertyChanged(Control& control, PropertyId property) override;
   void ItemsChanged(ListBox& list) override;
+  void ItemInserted(ListBox& list, int index) override;
+  void ItemRemoved(ListBox& list, int index) override;
   void RowChanged(ComboBox& combo, int row) override;
   void TextLoaded() override;
   void TextReplaced(Position at, Position removed, Position inserted) override;

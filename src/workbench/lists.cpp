@@ -71,8 +71,9 @@ void ListBox::AddItem(std::u32string_view text) {
     at = items_.begin() + (place - keys_.begin());
     keys_.insert(place, std::move(key));
   }
+  const auto index = static_cast<int>(at - items_.begin());
   items_.emplace(at, text);
-  Form().TheWatcher().ItemsChanged(*this);
+  Form().TheWatcher().ItemInserted(*this, index);
 }
 
 void ListBox::AddItems(const std::vector<std::u32string>& texts) {
@@ -102,7 +103,7 @@ void ListBox::RemoveItem(int i) {
   ItemOf(items_, i);
   items_.erase(items_.begin() + i);
   if (sorted_) keys_.erase(keys_.begin() + i);
-  Form().TheWatcher().ItemsChanged(*this);
+  Form().TheWatcher().ItemRemoved(*this, i);
   if (listIndex_ == i) {
     Select(-1);
   } else if (listIndex_ > i) {

@@ -28,7 +28,10 @@ class Watcher {
   virtual ~Watcher() = default;
 
   virtual void PropertyChanged(Control& /*control*/, PropertyId /*property*/) {}
+  // Of one item that came or went, its index is told; of more, only that they changed.
   virtual void ItemsChanged(ListBox& /*list*/) {}
+  virtual void ItemInserted(ListBox& /*list*/, int /*index*/) {}
+  virtual void ItemRemoved(ListBox& /*list*/, int /*index*/) {}
   virtual void RowChanged(ComboBox& /*combo*/, int /*row*/) {}
   // The whole text is another one.
   virtual void TextLoaded() {}

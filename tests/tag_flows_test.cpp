@@ -1,0 +1,412 @@
+// Tags that exist: bringing them back, finding them at the caret, referring to them, removing them.
+#include <gtest/gtest.h>
+
+#include "support/workbench.h"
+#include "tags/reference_tag.h"
+#include "tags/tag_check.h"
+#include "tags/tag_record.h"
+#include "tags/tag_removal.h"
+#include "text/unicode.h"
+
+namespace quill::test {
+namespace {
+
+std::u32string Line(int start, int end, const char32_t* term,
+                    const char32_t* operatorText = U"a_operator") {
+  return ComposeTag(TagFields{U"1", DecimalText(start), DecimalText(end), term, U"S", U"U",
+                              U"lexematic", operatorText, U"absolute ", U"at", U"d ", U"6",
+                              U"Reference Tag", U" ", U" "});
+}
+
+struct TagFlows : testing::Test, Workbench {
+  TagFlows() {
+    ShowText(U"one two three two", "...._______......");
+    program.Click(form.mnuPostProcess);
+    form.WorkState.TextBaseFile = U"x.tbf";
+    form.WorkState.TagListFile = U"x.tlf";
+  }
+
+  void Fill(const std::vector<std::u32string>& lines) {
+    form.TagList.Clear();
+    for (const std::u32string& line : lines) form.TagList.AddItem(line);
+  }
+  std::string Selected() const { return ToUtf8(text.SelText()); }
+};
+
+// --- Selection -------------------------------------------------------------------------------
+
+TEST_F(TagFlows, ALineComesBackWhole) {
+  Fill(
+      {U"t_op(2\\ 5\\ 7\\ two\\ S 1\\ anna\\ grammatic\\ b_operator\\ relative\\ same\\ year \\ "
+       U"Value ?\\ three\\ 9 \\ 13 )"});
+  program.ClickItem(form.TagList, 0);
+  EXPECT_TRUE(form.WorkState.CurrentTag == form.TagList.List(0));
+  const struct {
+    const std::u32string& found;
+    const char32_t* expected;
+  } kRows[] = {
+      {form.TaggedString.Text, form.TagList.List(0).c_str()},
+      {form.marked_term.Text, U"two"},
+      {form.ID.Text, U"2"},
+      {form.StartPosition.Text, U"5"},
+      {form.EndPosition.Text, U"7"},
+      {form.SessionID.Text, U"S 1"},
+      {form.UserID1.Text, U"anna"},
+      {form.ClassCombo.Text, U"grammatic"},
+      {form.OperatorCombo.Text, U"b_operator"},
+      {form.ModeCombo.Text, U"relative"},
+      {form.TypeCombo.Text, U"same"},
+      {form.GranCombo.Text, U"year "},
+      {form.ValBox.Text, U"Value ?"},
+      {form.RefBox.Text, U"three"},
+      {form.RefTagStart.Text, U"9"},
+      {form.RefTagStop.Text, U"13"},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(row.found), ToUtf8(row.expected));
+  EXPECT_TRUE(form.RefFrame.Visible);
+  EXPECT_EQ(form.TaggedString.ForeColor.Get(), RGB(255, 0, 0));
+  EXPECT_EQ(Drawing(text),
+            "....____"
+            "_____....");
+  EXPECT_EQ(text.Selection(), (Range{4, 7}));
+  EXPECT_EQ(form.Focus(), &text);
+  EXPECT_EQ(form.TagList.ListIndex, 0);
+  EXPECT_TRUE(form.Generate_Tag.Enabled && form.RemoveItem.Enabled);
+  EXPECT_EQ(form.TypeCombo.ListCount(), 0) << "rows are the user's last pick";
+  EXPECT_TRUE(form.WorkState.TagStart.IsEmpty() && form.WorkState.TagEnd.IsEmpty());
+}
+
+TEST_F(TagFlows, WhatALineShowsInTheText) {
+  const struct {
+    const char* about;
+    const char32_t* line;
+    const char* drawing;  // with what is underlined now
+    Range selection;
+    bool refFrame;
+    const char32_t* refStart;
+  } kRows[] = {
+      {"no reference",
+       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ relative\\ \\ \\ \\ R\\  \\   )",
+       ".................",
+       {4, 7},
+       true,
+       U"0"},
+      {"a reference of nought",
+       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ absolute \\ \\ \\ \\ R\\ 0\\ 0 )",
+       ".................",
+       {4, 7},
+       false,
+       U"0"},
+      {"a reference of an absolute tag",
+       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ absolute \\ \\ \\ \\ R\\ 1\\ 3 )",
+       "___..............",
+       {4, 7},
+       false,
+       U"1"},
+      {"a typed mode",
+       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ Relative\\ \\ \\ \\ R\\  \\   )",
+       "___..............",
+       {4, 7},
+       false,
+       U"0"},
+      {"a reference beyond the end",
+       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ relative\\ \\ \\ \\ R\\ 16\\ 99 )",
+       "___............__",
+       {4, 7},
+       true,
+       U"16"},
+      {"a span that runs over the end",
+       U"t_op(1\\ 15\\ 40\\ ",
+       "___............__",
+       {14, 17},
+       false,
+       U"0"},
+      {"a span beyond the end",
+       U"t_op(1\\ 400\\ 402\\ ",
+       "___............__",
+       {17, 17},
+       false,
+       U"0"},
+      {"an end before the start", U"t_op(1\\ 7\\ 2\\ ", "___............__", {6, 6}, false, U"0"},
+      {"a blank line", U"", "___............__", {0, 0}, false, U"0"},
+      {"no tag", U"chapter one", "___............__", {0, 0}, false, U"0"},
+      {"a backslash in the term shifts what follows",
+       U"t_op(1\\ 1\\ 3\\ o\\ne\\ \\ \\ \\ \\ relative\\ \\ \\ \\ R\\ 5\\ 7 )",
+       "___............__",
+       {0, 3},
+       false,
+       U"0"},
+  };
+  ShowText(U"one two three two", ".................");
+  for (const auto& row : kRows) {
+    Fill({row.line});
+    program.ClickItem(form.TagList, 0);
+    program.ClickItem(form.TagList, 0);  // the same once more changes nothing
+    EXPECT_EQ(Drawing(text), row.drawing) << row.about;
+    EXPECT_EQ(text.Selection(), row.selection) << row.about;
+    EXPECT_EQ(form.RefFrame.Visible.Get(), row.refFrame) << row.about;
+    EXPECT_EQ(ToUtf8(form.RefTagStart.Text.Get()), ToUtf8(row.refStart)) << row.about;
+    EXPECT_TRUE(form.TaggedString.Text == row.line) << row.about;
+    EXPECT_EQ(form.TagList.ListIndex, 0) << row.about;
+  }
+}
+
+TEST_F(TagFlows, AnotherOperatorKeepsTheColourOfTheLine) {
+  Fill({Line(1, 3, U"one", U"a_operator"), Line(1, 3, U"one", U"b_operator"),
+        Line(1, 3, U"one", U"A_operator")});
+  const Colour expected[] = {RGB(0, 0, 255), RGB(255, 0, 0), RGB(255, 0, 0)};
+  for (int i = 0; i < 3; ++i) {
+    program.ClickItem(form.TagList, i);
+    EXPECT_EQ(form.TaggedString.ForeColor.Get(), expected[i]);
+  }
+}
+
+TEST_F(TagFlows, NoLineSelectedIsNoTag) {
+  Fill({Line(1, 3, U"one")});
+  program.ClickItem(form.TagList, 0);
+  form.TagList.ListIndex = -1;
+  EXPECT_TRUE(form.marked_term.Text == U"one");
+}
+
+// --- The caret -------------------------------------------------------------------------------
+
+struct CaretRow {
+  const char* about;
+  std::vector<std::u32string> lines;
+  Position caret;
+  int found;  // index, -1 for none
+};
+
+const CaretRow kCarets[] = {
+    {"in front of the gap", {Line(5, 7, U"two")}, 3, -1},
+    {"right before the first character", {Line(5, 7, U"two")}, 4, 0},
+    {"inside", {Line(5, 7, U"two")}, 5, 0},
+    {"right behind the last character", {Line(5, 7, U"two")}, 7, 0},
+    {"behind that gap", {Line(5, 7, U"two")}, 8, -1},
+    {"at the start of the text", {Line(1, 3, U"one")}, 0, 0},
+    {"two tags on a term", {Line(9, 13, U"three"), Line(5, 7, U"x"), Line(5, 7, U"y")}, 6, 1},
+    {"between neighbours", {Line(5, 7, U"two"), Line(1, 4, U"one ")}, 4, 0},
+    {"between neighbours, the other order", {Line(1, 4, U"one "), Line(5, 7, U"two")}, 4, 0},
+    {"only the second of two neighbours", {Line(1, 4, U"one "), Line(5, 7, U"two")}, 5, 1},
+    {"overlapping", {Line(1, 13, U"one two three"), Line(5, 7, U"two")}, 6, 0},
+    {"the last line of the list", {Line(1, 3, U"one"), U"", Line(15, 17, U"two")}, 17, 2},
+    {"a line that cannot be cut, at the start",
+     {Line(5, 7, U"two"), U"", Line(1, 3, U"one")},
+     0,
+     1},
+    {"a line that cannot be cut, elsewhere", {U"", U"t_op(1", U"t_op(1\\ 2\\ 17"}, 2, -1},
+    {"a start alone", {U"t_op(1\\ 1\\ "}, 0, 0},
+    {"three separators are enough", {U"\\ 5\\ 7\\"}, 5, 0},
+    {"fields with blanks", {U"t_op(1\\ 1 6\\  17 \\ x"}, 16, 0},
+    {"a tag over the end of a text that shrank", {Line(17, 30, U"x")}, 17, 0},
+    {"an end before the start", {Line(7, 5, U"x")}, 6, -1},
+    {"nothing in the list", {}, 0, -1},
+};
+
+TEST_F(TagFlows, TheCheckFindsTheFirstLineAtTheCaret) {
+  for (const CaretRow& row : kCarets) {
+    SCOPED_TRACE(row.about);
+    Fill(row.lines);
+    program.Select(row.caret, 2);
+    const Range before = text.Selection();
+    program.Click(form.TagChecker);
+    EXPECT_EQ(form.WorkState.CaretPos.Number(), static_cast<double>(before.begin));
+    EXPECT_EQ(form.TagList.ListIndex, row.found);
+    if (row.found >= 0) {
+      EXPECT_TRUE(form.TaggedString.Text == form.TagList.List(row.found));
+    } else {
+      EXPECT_TRUE(form.TaggedString.Text == U" ");
+      EXPECT_EQ(text.Selection(), before);
+    }
+  }
+}
+
+TEST_F(TagFlows, TheReferenceIsTheFirstLineAtTheCaret) {
+  form.StartPosition.Text = U"5";
+  form.EndPosition.Text = U"7";
+  for (const CaretRow& row : kCarets) {
+    SCOPED_TRACE(row.about);
+    Fill(row.lines);
+    program.Select(row.caret, 2);
+    const Range before = text.Selection();
+    const std::u32string selected = text.SelText();
+    RefTag_Click(form);
+    EXPECT_EQ(form.TagList.ListIndex, -1);
+    if (row.found >= 0) {
+      const TagSpan span = CutTagSpan(row.lines[static_cast<std::size_t>(row.found)]);
+      EXPECT_TRUE(form.RefTagStart.Text == DecimalText(span.start));
+      EXPECT_TRUE(form.RefTagStop.Text == DecimalText(span.end));
+      EXPECT_EQ(Selected(), "two");
+    } else {
+      EXPECT_TRUE(form.RefBox.Text == selected);
+      EXPECT_TRUE(form.RefTagStart.Text == U" " && form.RefTagStop.Text == U" ");
+      EXPECT_EQ(text.Selection(), before);
+    }
+  }
+}
+
+TEST_F(TagFlows, NothingIsFoundOutsidePostProcessingOrInAnEmptyText) {
+  Fill({Line(1, 3, U"one")});
+  const auto expectNothing = [&] {
+    form.WorkState.CaretPos = 0;
+    FindTagAtCaret(form);
+    EXPECT_EQ(form.TagList.ListIndex, -1);
+    form.RefTagStart.Text = U"4";
+    FindReferenceTag(form);
+    EXPECT_TRUE(form.RefTagStart.Text == U" ");
+  };
+  form.PostFrame.Visible = false;
+  expectNothing();
+  form.PostFrame.Visible = true;
+  ShowText(U" ", ".");
+  expectNothing();
+}
+
+TEST_F(TagFlows, ACheckWithoutATagDeselects) {
+  Fill({Line(5, 7, U"two")});
+  program.ClickItem(form.TagList, 0);
+  program.Select(12, 0);
+  program.Click(form.TagChecker);
+  EXPECT_TRUE(form.StartPosition.Text == U"Start");
+  EXPECT_FALSE(form.Generate_Tag.Enabled);
+  EXPECT_TRUE(form.RemoveItem.Enabled) << "keeps its state";
+  program.Click(form.RemoveItem);
+  EXPECT_EQ(form.TagList.ListCount(), 1);
+  EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(TagFlows, AReferenceIsTheWholeTermOfTheTextAsItStands) {
+  ShowText(U"one two three two", ".................");
+  Fill({Line(9, 13, U"a former term"), Line(5, 7, U"two")});
+  program.ClickItem(form.TagList, 1);
+  form.ModeCombo.Text = U"relative";
+  form.ValBox.Text = U"x";  // runs the rules
+  program.Select(10, 2);
+  program.Click(form.RefTag);
+  EXPECT_TRUE(form.RefBox.Text == U"three");
+  EXPECT_EQ(Drawing(text), "........_____....");
+  EXPECT_EQ(Selected(), "two");
+  EXPECT_EQ(form.Focus(), &text);
+  EXPECT_EQ(form.TagList.ListIndex, 1) << "the tag stays under edit";
+  EXPECT_TRUE(form.Generate_Tag.Enabled);
+}
+
+// --- Removal ---------------------------------------------------------------------------------
+
+struct RemovalRow {
+  const char* about;
+  std::vector<std::u32string> lines;
+  int removed;
+  int other;            // index among the lines that are left, -1 for none
+  const char* drawing;  // of a text that is all blue before
+};
+
+TEST_F(TagFlows, RemovalLooksForTheSameWord) {
+  const std::u32string two = Line(5, 7, U"two");
+  const RemovalRow kRows[] = {
+      {"the only tag", {two}, 0, -1, "aaaa...aaaaaaaaaa"},
+      {"another word", {two, Line(9, 13, U"three")}, 0, -1, "aaaa...aaaaaaaaaa"},
+      {"another case", {Line(5, 7, U"Two"), two}, 1, -1, "aaaa...aaaaaaaaaa"},
+      {"a longer word", {Line(1, 7, U"one two"), two}, 1, -1, "aaaa...aaaaaaaaaa"},
+      {"a blank behind", {Line(5, 8, U"two "), two}, 1, -1, "aaaa...aaaaaaaaaa"},
+      {"a second tag on the span",
+       {two, Line(5, 7, U"two", U"b_operator")},
+       0,
+       0,
+       "aaaabbbaaaaaaaaaa"},
+      {"another occurrence", {two, Line(15, 17, U"two", U"b_operator")}, 0, 0, "aaaaaaaaaaaaaabbb"},
+      {"an operator of no kind is red",
+       {two, Line(15, 17, U"two", U"Operator")},
+       0,
+       0,
+       "aaaaaaaaaaaaaabbb"},
+      {"the first of two others",
+       {Line(15, 17, U"two", U"b_operator"), two, Line(5, 7, U"two")},
+       1,
+       0,
+       "aaaaaaaaaaaaaabbb"},
+      {"the text tells the word, not the line",
+       {Line(5, 7, U"gone"), Line(1, 3, U"gone")},
+       0,
+       -1,
+       "aaaa...aaaaaaaaaa"},
+      {"a line with four separators", {two, U"\\ 1\\ 3\\ two\\"}, 0, 0, "bbbaaaaaaaaaaaaaa"},
+      {"a line with three", {two, U"\\ 1\\ 3\\ two"}, 0, -1, "aaaa...aaaaaaaaaa"},
+      {"beyond the end", {Line(40, 42, U"two"), two}, 0, -1, "aaaaaaaaaaaaaaaaa"},
+      {"over the end", {Line(15, 40, U"x"), Line(1, 3, U"two")}, 0, 0, "aaaaaaaaaaaaaaaaa"},
+      {"a line that cannot be cut", {U"", two}, 0, -1, "aaaaaaaaaaaaaaaaa"},
+      {"two of them: no term on either side", {U"", two, U"x"}, 0, 1, "aaaaaaaaaaaaaaaaa"},
+  };
+  for (const RemovalRow& row : kRows) {
+    SCOPED_TRACE(row.about);
+    ShowText(U"one two three two", "aaaaaaaaaaaaaaaaa");
+    Fill(row.lines);
+    program.ClickItem(form.TagList, row.removed);
+    dialogs.answers = {2};
+    program.Click(form.RemoveItem);
+    EXPECT_EQ(form.TagList.ListCount(), static_cast<int>(row.lines.size()) - 1);
+    EXPECT_EQ(form.TagList.ListIndex, row.other);
+    EXPECT_EQ(Drawing(text), row.drawing);
+    EXPECT_TRUE(form.WorkState.CurrentTag ==
+                (row.other >= 0 ? form.TagList.List(row.other)
+                                : row.lines[static_cast<std::size_t>(row.removed)]));
+    EXPECT_TRUE(form.TaggedString.Text ==
+                (row.other >= 0 ? form.TagList.List(row.other) : std::u32string(U" ")));
+  }
+}
+
+TEST_F(TagFlows, TheAnswerDecidesAboutTheFileAlone) {
+  const struct {
+    bool other;
+    int answer;
+    const char* file;
+    bool enabled;
+  } kRows[] = {
+      {true, 1, "t_op(1\\ 15\\ 17\\ two\\ ", false},
+      {true, 2, "as it was", true},
+      {false, 1, "", false},
+      {false, 2, "as it was", true},
+  };
+  for (const auto& row : kRows) {
+    ShowText(U"one two three two", "aaaaaaaaaaaaaaaaa");
+    text.SelStart = 4;
+    text.SelLength = 3;
+    text.SelCharOffset = 25;
+    text.SelBold = true;
+    text.SelUnderline = true;
+    Fill({Line(5, 7, U"two")});
+    if (row.other) form.TagList.AddItem(Line(15, 17, U"two", U"b_operator"));
+    program.ClickItem(form.TagList, 0);
+    disk.files["x.tlf"] = "as it was";
+    dialogs.shown.clear();
+    dialogs.answers = {row.answer};
+    program.Click(form.RemoveItem);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_TRUE(dialogs.shown[0].prompt == U"Do you want to save this change?");
+    EXPECT_TRUE(dialogs.shown[0].title == U"Input required");
+    EXPECT_EQ(dialogs.shown[0].buttons, 33);
+    EXPECT_EQ(disk.files["x.tlf"].substr(0, 20), std::string(row.file).substr(0, 20));
+    EXPECT_EQ(form.RemoveItem.Enabled.Get(), row.enabled);
+    const Attributes& span = text.Doc().At(4);
+    EXPECT_EQ(span.offset, row.other ? 25 : 0);
+    EXPECT_EQ(span.bold, row.other);
+    EXPECT_EQ(span.colour, row.other ? RGB(0, 0, 255) : RGB(0, 0, 0));
+    EXPECT_TRUE(span.underline) << "no business of a removal";
+    EXPECT_EQ(text.Selection(), (row.other ? Range{14, 17} : Range{4, 7}));
+  }
+}
+
+TEST_F(TagFlows, AFileThatCannotBeRewrittenIsNoMessage) {
+  Fill({Line(5, 7, U"two")});
+  program.ClickItem(form.TagList, 0);
+  disk.files["x.tlf"] = "as it was";
+  disk.Refuse(DiskCall::kReplace, "x.tlf");
+  dialogs.answers = {1};
+  program.Click(form.RemoveItem);
+  EXPECT_EQ(disk.files["x.tlf"], "as it was");
+  EXPECT_FALSE(form.RemoveItem.Enabled);
+  EXPECT_EQ(form.TagList.ListCount(), 0);
+}
+
+}  // namespace
+}  // namespace quill::test
