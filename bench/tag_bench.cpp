@@ -11,21 +11,10 @@
 #include "no_machine.h"
 #include "program/program.h"
 #include "rtf/reader.h"
-#include "tags/tag_record.h"
+#include "tag_lines.h"
 
 namespace quill::bench {
 namespace {
-
-// The word of line i stands at 10 i + 1.
-constexpr int kSpacing = 10;
-
-std::u32string Line(int i) {
-  const std::u32string number = DecimalText(i);
-  const std::u32string end = DecimalText(kSpacing * i + 6);
-  return ComposeTag(TagFields{number, DecimalText(kSpacing * i + 1), end, U"word " + number,
-                              U"Session-ID", U"User-ID", U"lexematic", U"a_operator", U"relative",
-                              U"before", U"year ", U"Value ?", U"the wedding", U"880", U"890"});
-}
 
 class Tags {
  public:
@@ -33,7 +22,7 @@ class Tags {
     Form().RichTextBox1.SetDocument(*rtf::Read(GeneratedText(Kind::kProse, kSpacing * lines + 10)));
     Form().mnuProcess.Enabled = true;
     program_.Click(Form().mnuPostProcess);
-    for (int i = 0; i < lines; ++i) Form().TagList.AddItem(Line(i));
+    for (int i = 0; i < lines; ++i) Form().TagList.AddItem(TagLine(i));
   }
 
   Form1& Form() { return program_.Form(); }
@@ -43,7 +32,7 @@ class Tags {
     program_.Click(Form().TagChecker);
   }
   void RemoveSelected() { program_.Click(Form().RemoveItem); }
-  void PutBack() { Form().TagList.AddItem(Line(lines_ - 1)); }
+  void PutBack() { Form().TagList.AddItem(TagLine(lines_ - 1)); }
 
  private:
   NoDialogs dialogs_;
@@ -83,7 +72,7 @@ void Remove(benchmark::State& state) {
 
 void PlainPass(benchmark::State& state) {
   std::u32string all;
-  for (int i = 0; i < static_cast<int>(state.range(0)); ++i) all += Line(i);
+  for (int i = 0; i < static_cast<int>(state.range(0)); ++i) all += TagLine(i);
   for (auto _ : state) benchmark::DoNotOptimize(std::accumulate(all.begin(), all.end(), 0U));
   state.SetBytesProcessed(static_cast<std::int64_t>(all.size() * sizeof(char32_t)) *
                           state.iterations());

@@ -24,6 +24,7 @@ std::vector<std::u32string> DecodeLines(std::string_view bytes) {
 }
 
 std::string EncodeLine(std::u32string_view line) {
+  if (line.find(kParagraphEnd) == std::u32string_view::npos) return ToUtf8(line);
   std::u32string ended;
   ended.reserve(line.size());
   for (const char32_t c : line) {
