@@ -1,5 +1,6 @@
 #include "text/unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -70,9 +71,12 @@ std::u32string DecodeWith(std::string_view bytes, StrayByte stray) {
 }  // namespace
 
 std::string ToUtf8(std::u32string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size());
-  for (const char32_t c : text) Encode(IsCharacter(c) ? c : kReplacement, bytes);
+  // Most lines are ASCII up to their end: those characters are copied at once.
+  const auto other = std::find_if(text.begin(), text.end(), [](char32_t c) { return c >= 0x80; });
+  std::string bytes(static_cast<std::size_t>(other - text.begin()), '\0');
+  std::transform(text.begin(), other, bytes.begin(),
+                 [](char32_t c) { return static_cast<char>(c); });
+  for (auto c = other; c != text.end(); ++c) Encode(IsCharacter(*c) ? *c : kReplacement, bytes);
   return bytes;
 }
 
