@@ -109,7 +109,7 @@ class ListView : public QListView {
     return selected.empty() ? -1 : selected.front().row();
   }
 
-  void Reset() {
+  void ShowAnew() {
     KeepPlace([this] { rows_->Reset(); });
   }
   void Follow(const std::vector<ItemChange>& changes) {
@@ -164,7 +164,7 @@ ListBoxBinder::ListBoxBinder(ListBox& list, QWidget& container, Actions& actions
 
 ListBoxBinder::ListBoxBinder(ListBox& list, ListView& view, Actions& actions)
     : WidgetBinder(list, view, actions), list_(list), view_(view) {
-  view.Reset();
+  view.ShowAnew();
   SetColours(view, BackgroundOf(list.Row()), ToQColor(list.Row().stored.foreColor));
   view.chosen = [this](int row) {
     TheActions().Do([&](Program& program) { program.ClickItem(list_, row); });
@@ -175,7 +175,7 @@ ListBoxBinder::ListBoxBinder(ListBox& list, ListView& view, Actions& actions)
 void ListBoxBinder::Show() {
   WidgetBinder::Show();
   if (changes_.size() > kMostSingleChanges) {
-    view_.Reset();
+    view_.ShowAnew();
   } else if (!changes_.empty()) {
     view_.Follow(changes_);
   }
