@@ -33,6 +33,7 @@ class NoDisk : public Disk {
     throw StatementFailed(path + ": benchmarks have no files");
   }
   void Replace(const std::string& /*path*/, std::string_view /*bytes*/) override {}
+  void ReplaceKeepingOld(const std::string& /*path*/, std::string_view /*bytes*/) override {}
   void AppendLine(const std::string& /*path*/, std::string_view /*line*/) override {}
   void CreateIfMissing(const std::string& /*path*/) override {}
 };

@@ -132,6 +132,37 @@ TEST_F(PosixDiskTest, AFailedReplaceLeavesTheOldFileAndNothingElse) {
   EXPECT_EQ(Names(), "old ");
 }
 
+TEST_F(PosixDiskTest, KeepsTheOldFileUnderTheNextFreeName) {
+  fs::create_directory(folder / "far");
+  Put("far/list", "first");
+  ASSERT_EQ(chmod(Path("far/list").c_str(), 0640), 0);
+  fs::create_symlink("far/list", folder / "link");
+  fs::create_symlink("nowhere", folder / "far/list~2");
+  for (const char* bytes : {"second", "third", "fourth"}) {
+    disk.ReplaceKeepingOld(Path("link"), bytes);
+  }
+  EXPECT_EQ(Get("link"), "fourth");
+  EXPECT_EQ(Get("far/list~"), "first");
+  EXPECT_EQ(Get("far/list~3"), "second");
+  EXPECT_EQ(Get("far/list~4"), "third");
+  EXPECT_EQ(ModeOf(Path("far/list~")), 0640U);
+  EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "far/list~2"));
+  EXPECT_EQ(Names(), "far link ");
+  EXPECT_NE(Refusal([&] { disk.ReplaceKeepingOld(Path("missing"), "x"); }), "no failure");
+  EXPECT_EQ(Names(), "far link ");
+}
+
+TEST_F(PosixDiskTest, AFileThatIsNotReplacedIsNotKeptEither) {
+  Put("old", "old content");
+  const std::string large(20, 'x');
+  for (const rlim_t most : {5U, 15U}) {  // no room for the copy; none for the new content
+    const FileSizeLimit limit(most);
+    EXPECT_NE(Refusal([&] { disk.ReplaceKeepingOld(Path("old"), large); }), "no failure");
+  }
+  EXPECT_EQ(Get("old"), "old content");
+  EXPECT_EQ(Names(), "old ");
+}
+
 TEST_F(PosixDiskTest, ClearsWhatACrashLeftAndLeavesWhatAnotherProgramWrites) {
   Put(".text.tbf.quill-saving", "half a te");
   disk.Replace(Path("text.tbf"), "whole");

@@ -190,9 +190,7 @@ TEST_F(TagGeneration, AnEditLeavesTheOldLineInTheFileUntilARewrite) {
   EXPECT_NE(second.find("\\ t\r\nwo\\ "), std::string::npos);  // two lines of the file
   RewriteTagListFile(form);
   EXPECT_EQ(disk.files["x.tlf"], second);
-  form.TagList.Clear();
-  RewriteTagListFile(form);
-  EXPECT_EQ(disk.files["x.tlf"], "");
+  EXPECT_FALSE(disk.Has("x.tlf~"));
 }
 
 }  // namespace

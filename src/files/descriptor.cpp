@@ -90,6 +90,10 @@ void Descriptor::Flush() const {
   if (Uninterrupted([&] { return fsync(number_); }) != 0) FailDisk(name_, "flushed to the disk");
 }
 
+bool IsSameFile(const struct stat& left, const struct stat& right) {
+  return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
 std::string FolderPart(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
 void FlushFolderOf(const std::string& path) {

@@ -42,6 +42,9 @@ class Descriptor {
   int number_;
 };
 
+// Whether two names stand for one file.
+bool IsSameFile(const struct stat& left, const struct stat& right);
+
 // "a/" of "a/b", "" of "b".
 std::string FolderPart(const std::string& path);
 

@@ -72,6 +72,7 @@ void LoadTagList(Form1& form) {
   DeriveTagListFile(form);
   const std::string path = EncodePath(form.WorkState.TagListFile.Text());
   form.TheDisk().CreateIfMissing(path);
+  form.TakenTags = {};
   for (const std::u32string& line : DecodeLines(form.TheDisk().Read(path))) {
     form.TagList.AddItem(line);
   }

@@ -9,6 +9,7 @@
 
 #include "files/descriptor.h"
 #include "files/replacement.h"
+#include "workbench/failure.h"
 
 namespace quill {
 namespace {
@@ -22,6 +23,28 @@ std::optional<struct stat> StatusAt(const std::string& path) {
   if (lstat(path.c_str(), &status) == 0) return status;
   if (errno != ENOENT) FailDisk(path, "written");
   return std::nullopt;
+}
+
+// The status of an ordinary file that may be written, or nothing where there is none.
+std::optional<struct stat> WritableAt(const std::string& target, const std::string& path) {
+  const std::optional<struct stat> status = StatusAt(target);
+  if (!status) return std::nullopt;
+  if (!S_ISREG(status->st_mode)) FailDisk(path, "written", "it is no ordinary file");
+  if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) FailDisk(path, "written");
+  return status;
+}
+
+// Lays a copy of the content beside the target and returns its path.
+std::string KeepBeside(const std::string& target, const struct stat& old, std::string_view bytes) {
+  constexpr int kMostCopies = 10000;
+  Replacement copy(target, true);
+  copy.Fill(bytes);
+  copy.TakePermissionsOf(old);
+  for (int copies = 1; copies < kMostCopies; ++copies) {
+    const std::string name = target + (copies == 1 ? "~" : "~" + std::to_string(copies));
+    if (copy.PutUnder(name)) return name;
+  }
+  FailDisk(target, "kept", "there are too many older copies of it");
 }
 
 // Makes an empty file unless one is there.
@@ -84,13 +107,26 @@ std::string PosixDisk::Read(const std::string& path) {
 void PosixDisk::Replace(const std::string& path, std::string_view bytes) {
   if (path.find('\0') != std::string::npos) FailDisk(path, "written", "its name holds a NUL");
   const std::string target = TargetOf(path);
-  const std::optional<struct stat> old = StatusAt(target);
-  if (old && !S_ISREG(old->st_mode)) FailDisk(path, "written", "it is no ordinary file");
-  if (old && faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) FailDisk(path, "written");
+  const std::optional<struct stat> old = WritableAt(target, path);
   Replacement replacement(target, old.has_value());
   replacement.Fill(bytes);
   if (old) replacement.TakePermissionsOf(*old);
   replacement.PutInPlace();
+}
+
+void PosixDisk::ReplaceKeepingOld(const std::string& path, std::string_view bytes) {
+  const std::string content = Read(path);
+  const std::string target = TargetOf(path);
+  const std::optional<struct stat> old = WritableAt(target, path);
+  if (!old) FailDisk(path, "kept", "it is gone");
+  const std::string kept = KeepBeside(target, *old, content);
+  try {
+    Replace(path, bytes);
+  } catch (const StatementFailed&) {
+    struct stat now = {};
+    if (lstat(target.c_str(), &now) == 0 && IsSameFile(now, *old)) unlink(kept.c_str());
+    throw;
+  }
 }
 
 void PosixDisk::AppendLine(const std::string& path, std::string_view line) {

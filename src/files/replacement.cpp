@@ -38,8 +38,19 @@ std::string ClearedPath(const std::string& target) {
   return path;
 }
 
-bool IsSameFile(const struct stat& left, const struct stat& right) {
-  return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+// Renames a file unless the other name is taken; where it is, errno is EEXIST.
+int RenameToFree(const std::string& from, const std::string& to) {
+#ifdef __linux__
+  const int result = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+  if (result == 0 || (errno != EINVAL && errno != ENOSYS)) return result;
+#endif
+  // Not every file system can; another program could take the name between the two calls.
+  struct stat there = {};
+  if (lstat(to.c_str(), &there) == 0) {
+    errno = EEXIST;
+    return -1;
+  }
+  return errno == ENOENT ? rename(from.c_str(), to.c_str()) : -1;
 }
 
 // What a link holds; nothing where the path is no link.
@@ -95,6 +106,17 @@ void Replacement::TakePermissionsOf(const struct stat& old) const {
   const mode_t kept = owned ? 07777 : 0777;
   if (((file_.Status().st_mode ^ old.st_mode) & kept) == 0) return;
   if (fchmod(file_.Number(), old.st_mode & kept) != 0) FailDisk(target_, "given its permissions");
+}
+
+bool Replacement::PutUnder(const std::string& freePath) {
+  if (RenameToFree(path_, freePath) != 0) {
+    if (errno != EEXIST) FailDisk(freePath, "made");
+    return false;
+  }
+  path_ = freePath;
+  FlushFolderOf(path_);
+  inPlace_ = true;
+  return true;
 }
 
 void Replacement::PutInPlace() {

@@ -1,4 +1,4 @@
-// The temporary file through which a file is replaced.
+// The temporary file through which a file is replaced, or a copy laid beside it.
 #pragma once
 
 #include <string>
@@ -25,6 +25,9 @@ class Replacement {
   void TakePermissionsOf(const struct stat& old) const;
   // Renames it over the target and flushes the folder.
   void PutInPlace();
+  // Gives it another name in the target's folder instead and flushes the folder. Returns whether
+  // the name was free; what stands under a name that is taken stays.
+  bool PutUnder(const std::string& freePath);
 
  private:
   std::string target_;

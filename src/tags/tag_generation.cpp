@@ -30,10 +30,7 @@ void ColourTaggedString(Form1& form) {
 void Generate_Tag_Click(Form1& form) {
   if (form.StartPosition.Text == U"Start") return;
   if (form.EndPosition.Text == U"End") return;
-  if (form.TagList.ListIndex != -1) {
-    form.WorkState.CurrentTag = form.TagList.List(form.TagList.ListIndex);
-    form.TagList.RemoveItem(form.TagList.ListIndex);
-  }
+  if (form.TagList.ListIndex != -1) TakeSelectedTag(form);
   AssignNextTagID(form);
   form.ID.Text = form.WorkState.NextTagID.Text();
   form.WorkState.GeneratedTag = ComposeTag(form);

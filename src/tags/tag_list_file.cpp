@@ -1,10 +1,45 @@
 #include "tags/tag_list_file.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "files/text_lines.h"
 #include "text/unicode.h"
 #include "workbench/form1.h"
 
 namespace quill {
+namespace {
+
+// The lines of the file that the user gave up.
+std::string TakenLines(const Form1& form) {
+  std::string bytes;
+  if (form.WorkState.TagListFile != form.TakenTags.file) return bytes;
+  for (const std::u32string& line : form.TakenTags.lines) bytes += EncodeLine(line) + "\r\n";
+  return bytes;
+}
+
+// Whether a file holds a line that is not known, or holds it more often. Lines of files are
+// compared, as a tag may be several of them.
+bool HoldsForeignLine(std::string_view file, std::string_view known) {
+  std::vector<std::u32string> there = DecodeLines(file);
+  std::vector<std::u32string> expected = DecodeLines(known);
+  std::sort(there.begin(), there.end());
+  std::sort(expected.begin(), expected.end());
+  return !std::includes(expected.begin(), expected.end(), there.begin(), there.end());
+}
+
+}  // namespace
+
+void TakeSelectedTag(Form1& form) {
+  const int index = form.TagList.ListIndex;
+  const std::u32string line = form.TagList.List(index);
+  form.WorkState.CurrentTag = line;
+  const std::u32string file = form.WorkState.TagListFile.Text();
+  if (form.TakenTags.file != file) form.TakenTags = {file, {}};
+  form.TakenTags.lines.push_back(line);
+  form.TagList.RemoveItem(index);
+}
 
 void AppendGeneratedTag(Form1& form) {
   form.TheDisk().AppendLine(EncodePath(form.WorkState.TagListFile.Text()),
@@ -12,9 +47,16 @@ void AppendGeneratedTag(Form1& form) {
 }
 
 void RewriteTagListFile(Form1& form) {
+  const std::string path = EncodePath(form.WorkState.TagListFile.Text());
   std::string bytes;
   for (const std::u32string& line : form.TagList.Items()) bytes += EncodeLine(line) + "\r\n";
-  form.TheDisk().Replace(EncodePath(form.WorkState.TagListFile.Text()), bytes);
+  form.TheDisk().CreateIfMissing(path);
+  if (HoldsForeignLine(form.TheDisk().Read(path), bytes + TakenLines(form))) {
+    form.TheDisk().ReplaceKeepingOld(path, bytes);
+  } else {
+    form.TheDisk().Replace(path, bytes);
+  }
+  form.TakenTags = {};
 }
 
 }  // namespace quill

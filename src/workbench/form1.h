@@ -118,8 +118,9 @@ class Form1 : public Control {
   MenuItem mnuInfo{*this, "mnuInfo"};
   MenuItem mnuVLK{*this, "mnuVLK"};
 
-  // Qualified, as the member bears the name of its type.
+  // Qualified, as the members bear the names of their types.
   quill::WorkState WorkState;
+  quill::TakenTags TakenTags;
 
   // The controls in the order of the catalogue, without the form itself.
   const std::vector<Control*>& Controls() const { return controls_; }

@@ -34,6 +34,10 @@ class Disk {
   virtual std::string Read(const std::string& path) = 0;
   // All of the new content or all of the old: a failure at any moment leaves the old file whole.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
+  // As Replace, and the old content, which must be there, stays beside the file: as PATH~ or, where
+  // that name is taken, under the first free one of PATH~2, PATH~3 and so on. A failure leaves no
+  // such copy, unless the new content is in place.
+  virtual void ReplaceKeepingOld(const std::string& path, std::string_view bytes) = 0;
   // Adds one line and its line end, CR LF. A file that is missing is made; a last line that lacks
   // its line end gets it first.
   virtual void AppendLine(const std::string& path, std::string_view line) = 0;

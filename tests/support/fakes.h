@@ -26,6 +26,8 @@ class MemoryDisk final : public Disk {
 
   // From now on that call on that path fails.
   void Refuse(DiskCall call, const std::string& path) { refused_.emplace(call, path); }
+  // Nothing fails any more.
+  void Allow() { refused_.clear(); }
   bool Has(const std::string& path) const { return files.contains(path); }
 
   std::string Read(const std::string& path) override {
@@ -35,6 +37,14 @@ class MemoryDisk final : public Disk {
   }
   void Replace(const std::string& path, std::string_view bytes) override {
     Check(DiskCall::kReplace, path);
+    files[path] = bytes;
+  }
+  void ReplaceKeepingOld(const std::string& path, std::string_view bytes) override {
+    const std::string old = Read(path);
+    Check(DiskCall::kReplace, path);
+    std::string kept = path + "~";
+    for (int copies = 2; Has(kept); ++copies) kept = path + "~" + std::to_string(copies);
+    files[kept] = old;
     files[path] = bytes;
   }
   void AppendLine(const std::string& path, std::string_view line) override {
