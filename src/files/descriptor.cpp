@@ -101,7 +101,8 @@ void FlushFolderOf(const std::string& path) {
   const Descriptor folder(part.empty() ? "." : part, O_RDONLY | O_DIRECTORY);
   // A folder that may be written but not read, and a file system that flushes no folders, leave
   // nothing to do.
-  if (!folder.IsOpen() || Uninterrupted([&] { return fsync(folder.Number()); }) == 0) return;
+  if (!folder.IsOpen() && errno == EACCES) return;
+  if (folder.IsOpen() && Uninterrupted([&] { return fsync(folder.Number()); }) == 0) return;
   if (errno != EINVAL && errno != EOPNOTSUPP && errno != EBADF) {
     FailDisk(path, "flushed to the disk");
   }

@@ -40,10 +40,8 @@ void MakePlain(TextSurface& text, Range span) {
 
 void RemoveItem_Click(Form1& form) {
   if (form.TagList.ListIndex == -1) return;
-  const std::u32string line = form.TagList.List(form.TagList.ListIndex);
-  form.WorkState.CurrentTag = line;
-  form.TagList.RemoveItem(form.TagList.ListIndex);
-  const TagSpan span = CutTagSpan(line);
+  TakeSelectedTag(form);
+  const TagSpan span = CutTagSpan(form.WorkState.CurrentTag.Text());
   form.RichTextBox1.SelectSpan(span.start, span.end);
   const Range removed = form.RichTextBox1.Selection();
   if (const auto other = FindTagOf(form.TagList, form.RichTextBox1.SelText())) {
