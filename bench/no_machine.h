@@ -27,15 +27,24 @@ class NoDialogs : public Dialogs {
   }
 };
 
+// Remembers what was last written, under whatever name, so that a rewrite finds what it replaces.
 class NoDisk : public Disk {
  public:
   std::string Read(const std::string& path) override {
-    throw StatementFailed(path + ": benchmarks have no files");
+    if (!content_) throw StatementFailed(path + ": benchmarks have no files");
+    return *content_;
   }
-  void Replace(const std::string& /*path*/, std::string_view /*bytes*/) override {}
-  void ReplaceKeepingOld(const std::string& /*path*/, std::string_view /*bytes*/) override {}
+  void Replace(const std::string& /*path*/, std::string_view bytes) override { content_ = bytes; }
+  void ReplaceKeepingOld(const std::string& path, std::string_view bytes) override {
+    Replace(path, bytes);
+  }
   void AppendLine(const std::string& /*path*/, std::string_view /*line*/) override {}
-  void CreateIfMissing(const std::string& /*path*/) override {}
+  void CreateIfMissing(const std::string& /*path*/) override {
+    if (!content_) content_.emplace();
+  }
+
+ private:
+  std::optional<std::string> content_;
 };
 
 }  // namespace quill::bench
