@@ -41,7 +41,7 @@ std::string KeepBeside(const std::string& target, const struct stat& old, std::s
   copy.Fill(bytes);
   copy.TakePermissionsOf(old);
   for (int copies = 1; copies < kMostCopies; ++copies) {
-    const std::string name = target + (copies == 1 ? "~" : "~" + std::to_string(copies));
+    std::string name = target + (copies == 1 ? "~" : "~" + std::to_string(copies));
     if (copy.PutUnder(name)) return name;
   }
   FailDisk(target, "kept", "there are too many older copies of it");
