@@ -1,8 +1,16 @@
+#include <QAction>
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QIcon>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTimer>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "files/posix_disk.h"
 #include "program/program.h"
@@ -17,25 +25,69 @@ bool IsSet(const char* variable) {
   return value != nullptr && *value != '\0';
 }
 
+[[noreturn]] void Fail(const std::string& why) {
+  std::fprintf(stderr, "quillorandix: %s\n", why.c_str());
+  std::exit(1);
+}
+
 bool HasDisplay() {
   return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
+}
+
+QIcon Icon() {
+  QIcon icon;
+  QSvgRenderer drawing(QStringLiteral(":/icon.svg"));
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    drawing.render(&painter);
+    painter.end();
+    icon.addPixmap(pixmap);
+  }
+  return icon;
+}
+
+// The text to open at the start, empty for none. Ends the process at --help, --version and
+// arguments that can't be.
+QString TextFromArguments(const QCoreApplication& application) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      QStringLiteral("Marks and tags how narrative texts express time."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("file"),
+                               QStringLiteral("A rich text or a working copy to open."),
+                               QStringLiteral("[file]"));
+  parser.process(application);
+  const QStringList files = parser.positionalArguments();
+  if (files.size() > 1) Fail("one text at a time, please");
+  if (files.isEmpty()) return {};
+  const QFileInfo file(files.front());
+  if (!file.isFile() || !file.isReadable()) {
+    Fail("cannot read " + files.front().toLocal8Bit().toStdString());
+  }
+  return file.absoluteFilePath();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  QCoreApplication::setApplicationName(QStringLiteral("quillorandix"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(QUILL_VERSION));
   if (!HasDisplay()) {
-    std::fputs(
-        "quillorandix: there is no display; start it in a graphical session, or set DISPLAY.\n",
-        stderr);
-    return 1;
+    const QCoreApplication questions(argc, argv);
+    TextFromArguments(questions);
+    Fail("there is no display; start it in a graphical session, or set DISPLAY");
   }
   // A limit on the size of files makes a save fail, which is told, instead of ending the program.
   std::signal(SIGXFSZ, SIG_IGN);
   QApplication application(argc, argv);
   // Numbers in files have a point whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setApplicationName(QStringLiteral("quillorandix"));
+  const QString text = TextFromArguments(application);
+  QApplication::setDesktopFileName(QStringLiteral("org.quillorandix.Quillorandix"));
+  QApplication::setWindowIcon(Icon());
   quill::SetLook(application);
 
   quill::PosixDisk disk;
@@ -44,5 +96,10 @@ int main(int argc, char** argv) {
   quill::MainWindow window(program);
   dialogs.Attach(window, program.Form());
   window.show();
+  if (!text.isEmpty()) {
+    dialogs.ChooseNext(text);
+    QTimer::singleShot(0, window.findChild<QAction*>(QStringLiteral("mnuFileOpen")),
+                       &QAction::trigger);
+  }
   return QApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <utility>
 
 #include "text/unicode.h"
 #include "window/shown.h"
@@ -77,6 +78,7 @@ QString WindowDialogs::StartFolder() const {
 
 std::optional<std::u32string> WindowDialogs::ShowOpen(const std::u32string& title,
                                                       const std::u32string& filter) {
+  if (chosen_) return PathFromQt(*std::exchange(chosen_, std::nullopt));
   QFileDialog dialog(window_, ToQt(title), StartFolder());
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);

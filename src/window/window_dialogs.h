@@ -13,6 +13,9 @@ class WindowDialogs final : public Dialogs {
   // Before the first dialog: the window over which they open. Both must outlive the dialogs' use.
   void Attach(QWidget& window, const Form1& form);
 
+  // The next open dialog is answered with that path and not shown: a text given at the start.
+  void ChooseNext(const QString& path) { chosen_ = path; }
+
   std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                          const std::u32string& filter) override;
   // Asks before an existing file is overwritten, unless it is the working copy on show.
@@ -24,6 +27,7 @@ class WindowDialogs final : public Dialogs {
   QString StartFolder() const;
   bool MayWrite(const QString& path);
 
+  std::optional<QString> chosen_;
   QWidget* window_ = nullptr;
   const Form1* form_ = nullptr;
 };
