@@ -14,8 +14,8 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       marks_.Other();
       return;
     case Word::kAlternatives:
-      marks_.Other();
       skipNext_ = true;
+      alternativesAt_ = token.begin;
       return;
     case Word::kPictureForm:
       TakePictureForm(entry, token);

@@ -8,6 +8,10 @@
 namespace quill::rtf {
 namespace {
 
+constexpr std::string_view kLineEnds = "\r\n";
+
+bool IsLineEnd(char c) { return kLineEnds.find(c) != std::string_view::npos; }
+
 std::size_t BackslashesAtEnd(std::string_view bytes) {
   const std::size_t last = bytes.find_last_not_of('\\');
   return last == std::string_view::npos ? bytes.size() : bytes.size() - 1 - last;
@@ -31,20 +35,6 @@ Ending EndingOf(std::string_view bytes) {
   return number ? Ending::kNumber : Ending::kLetters;
 }
 
-// Whether the next byte would belong to a control word in front of it.
-bool NeedsBlank(std::string_view before, char next) {
-  if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return false;
-  switch (EndingOf(before)) {
-    case Ending::kLetters:
-      return true;
-    case Ending::kNumber:
-      return IsDigit(next) || next == ' ';
-    case Ending::kOther:
-      return false;
-  }
-  return false;
-}
-
 }  // namespace
 
 PatchedCopy::PatchedCopy(std::string_view source, std::vector<Patch> patches)
@@ -55,7 +45,7 @@ PatchedCopy::PatchedCopy(std::string_view source, std::vector<Patch> patches)
 bool PatchedCopy::OnlyLineEndsUpTo(Offset to) const {
   if (nextPatch_ < patches_.size() && patches_[nextPatch_].begin < to) return false;
   const std::string_view gap = source_.substr(at_, to > at_ ? to - at_ : 0);
-  return gap.find_first_not_of("\r\n") == std::string_view::npos;
+  return gap.find_first_not_of(kLineEnds) == std::string_view::npos;
 }
 
 void PatchedCopy::CopyTo(Offset to) {
@@ -64,6 +54,7 @@ void PatchedCopy::CopyTo(Offset to) {
     const bool insertion = patch.begin == patch.end;
     if (patch.begin == to && !insertion) break;
     CopyBytes(patch.begin);
+    if (patch.behindText) EndText();
     Append(patch.bytes);
     SkipTo(patch.end);
     ++nextPatch_;
@@ -73,7 +64,7 @@ void PatchedCopy::CopyTo(Offset to) {
 
 void PatchedCopy::CopyBytes(Offset to) {
   if (to <= at_) return;
-  if (seam_ && NeedsBlank(out_, source_[at_])) out_ += ' ';
+  if (seam_ && NeedsBlank(source_[at_])) out_ += ' ';
   seam_ = false;
   out_ += source_.substr(at_, to - at_);
   at_ = to;
@@ -89,9 +80,38 @@ void PatchedCopy::Append(std::string_view own) {
   if (own.empty()) return;
   // A backslash with which a file breaks off takes a blank, not what is put behind it.
   const bool dangling = at_ == source_.size() && BackslashesAtEnd(out_) % 2 == 1;
-  if (dangling || NeedsBlank(out_, own.front())) out_ += ' ';
+  if (dangling || NeedsBlank(own.front())) out_ += ' ';
   out_ += own;
   seam_ = true;
+}
+
+// Whether the next byte would belong to a control word in front of it.
+bool PatchedCopy::NeedsBlank(char next) const {
+  if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return false;
+  switch (EndingOf(std::string_view(out_).substr(textEnd_))) {
+    case Ending::kLetters:
+      return true;
+    case Ending::kNumber:
+      return IsDigit(next) || next == ' ';
+    case Ending::kOther:
+      return false;
+  }
+  return false;
+}
+
+bool PatchedCopy::IsBeforeBrace() const {
+  const std::size_t next = source_.find_first_not_of(kLineEnds, at_);
+  return next != std::string_view::npos && (source_[next] == '{' || source_[next] == '}');
+}
+
+void PatchedCopy::EndLine() {
+  if (!out_.empty() && IsLineEnd(out_.back())) return;
+  const bool patched = nextPatch_ < patches_.size() && patches_[nextPatch_].begin <= at_;
+  if (!patched && at_ < source_.size() && IsLineEnd(source_[at_])) {
+    CopyBytes(at_ + 1);
+  } else {
+    Append("\n");
+  }
 }
 
 }  // namespace quill::rtf

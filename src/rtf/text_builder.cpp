@@ -33,7 +33,7 @@ void TextBuilder::AddBytes(std::string_view bytes, Offset begin) {
   std::size_t at = 0;
   while (at < bytes.size()) {
     const auto here = static_cast<Offset>(begin + at);
-    if (!sequence_.empty() || nextIsOpen_ || page.IsSymbol() || !IsAscii(bytes[at])) {
+    if (!sequence_.empty() || reachesAt_ == here || page.IsSymbol() || !IsAscii(bytes[at])) {
       AddByte(static_cast<unsigned char>(bytes[at]), here, here + 1);
       ++at;
       continue;
@@ -86,13 +86,14 @@ bool TextBuilder::AddUnicode(std::int32_t number, Offset begin, Offset end) {
   if (IsLowHalf(c) && highHalf_ != 0) {
     const char32_t whole = 0x10000 + ((highHalf_ - 0xD800) << 10U) + (c - 0xDC00);
     highHalf_ = 0;
-    Put(whole, pairBegin_, end, pairIsOpen_ ? Origin::kOpen : Origin::kPlain);
+    if (pairIsSplit_) splitPairs_.push_back({pairBegin_, pairEnd_, begin});
+    Put(whole, pairBegin_, end, pairIsSplit_ ? Origin::kSplit : Origin::kPlain);
     return true;
   }
   EndPair();
   if (IsHighHalf(c)) {
     highHalf_ = c;
-    pairIsOpen_ = false;
+    pairIsSplit_ = false;
     pairBegin_ = begin;
     pairEnd_ = end;
     return true;
@@ -109,9 +110,14 @@ void TextBuilder::ExtendUnicode(Offset end) {
   }
 }
 
+void TextBuilder::ReachBack(Offset from, Offset at) {
+  reachesFrom_ = from;
+  reachesAt_ = at;
+}
+
 void TextBuilder::WordComes() {
   EndSequence();
-  pairIsOpen_ = true;
+  pairIsSplit_ = true;
 }
 
 void TextBuilder::Flush() {
@@ -134,8 +140,8 @@ void TextBuilder::EndPair() {
 void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind kind) {
   text_ += character;
   formats_.push_back(states_.Format());
-  origins_.push_back({begin, end - begin, nextIsOpen_ ? Origin::kOpen : kind});
-  nextIsOpen_ = false;
+  if (begin == reachesAt_) begin = reachesFrom_;
+  origins_.push_back({begin, end - begin, kind});
 }
 
 }  // namespace quill::rtf

@@ -31,8 +31,8 @@ class TextBuilder {
   bool AddUnicode(std::int32_t number, Offset begin, Offset end);
   // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
   void ExtendUnicode(Offset end);
-  // The next character can't be put into a group: a brace in front of it would be misread.
-  void OpenNext() { nextIsOpen_ = true; }
+  // If the next character begins at `at`, what stands between `from` and there belongs to it.
+  void ReachBack(Offset from, Offset at);
   // The last character reaches to `end`.
   void ExtendLast(Offset end) { origins_.back().length = end - origins_.back().begin; }
 
@@ -47,6 +47,7 @@ class TextBuilder {
   std::u32string TakeText() { return std::move(text_); }
   std::vector<FormatId> TakeFormats() { return std::move(formats_); }
   std::vector<Origin> TakeOrigins() { return std::move(origins_); }
+  std::vector<SplitPair> TakeSplitPairs() { return std::move(splitPairs_); }
 
  private:
   void Put(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
@@ -54,7 +55,10 @@ class TextBuilder {
   void EndSequence();
   void EndPair();
 
+  static constexpr Offset kNowhere = ~Offset{0};
+
   StateStack& states_;
+  std::vector<SplitPair> splitPairs_;
   std::u32string text_;
   std::vector<FormatId> formats_;
   std::vector<Origin> origins_;
@@ -63,9 +67,10 @@ class TextBuilder {
   Offset sequenceBegin_ = 0;
   Offset sequenceEnd_ = 0;
 
-  bool nextIsOpen_ = false;
-  char32_t highHalf_ = 0;    // of a pair, or 0
-  bool pairIsOpen_ = false;  // words stand behind the high half
+  Offset reachesFrom_ = 0;
+  Offset reachesAt_ = kNowhere;
+  char32_t highHalf_ = 0;     // of a pair, or 0
+  bool pairIsSplit_ = false;  // words stand behind the high half
   Offset pairBegin_ = 0;
   Offset pairEnd_ = 0;
 };

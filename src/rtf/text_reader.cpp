@@ -41,7 +41,8 @@ Document TextReader::Read() {
   if (!headerEnded_) tablePlace_ = bodyEnd;
   if (!tables_.colours.present) tables_.colours.end = tablePlace_;
   const FormatId endFormat = states_.Format();
-  Source source{std::move(bytes_), std::move(tables_.colours), marks_.Take(), bodyEnd};
+  Source source{std::move(bytes_), std::move(tables_.colours), marks_.Take(),
+                text_.TakeSplitPairs(), bodyEnd};
   return Document(std::move(source), tables_.fonts.TakeFaces(), std::move(formats_),
                   text_.TakeText(), text_.TakeFormats(), text_.TakeOrigins(), endFormat);
 }
@@ -49,9 +50,10 @@ Document TextReader::Read() {
 // Returns false behind the end of the document's group.
 bool TextReader::Take(const Token& token) {
   if (skipNext_ && token.kind != Token::kIgnored && token.kind != Token::kOpen) {
-    // No group follows, and none may come to follow by a mark on what does.
+    // No group follows, and none may come to follow by a mark on a character that does.
     skipNext_ = false;
-    text_.OpenNext();
+    text_.ReachBack(alternativesAt_, token.begin);
+    if (token.kind != Token::kText && token.kind != Token::kHex) marks_.Other();
   }
   switch (token.kind) {
     case Token::kIgnored:
@@ -91,7 +93,8 @@ bool TextReader::TakeAsFallback(const Token& token) {
   if (token.kind == Token::kIgnored) return true;
   if (token.kind == Token::kOpen || token.kind == Token::kClose) {
     fallbackLeft_ = 0;
-    braceIsNeeded_ = true;
+    // With a character the writer sees to it that what stands in for it ends.
+    braceIsNeeded_ = !fallbackBelongs_;
     return false;
   }
   Offset end = token.end;

@@ -14,6 +14,7 @@
 #include "rtf/colour_numbers.h"
 #include "rtf/encode.h"
 #include "rtf/patched_copy.h"
+#include "rtf/unfinished.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -59,17 +60,22 @@ class Writer {
   void NumberColours();
   std::vector<Patch> Patches() const;
 
-  bool KeepsPartsApart(const MarkGroup& group, std::size_t from) const;
+  bool IsUnfinished(std::size_t character) const;
   template <class Visitor>
   void Walk(const Tree& tree, Visitor&& visitor) const;
   std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
   void EmitTree(const Tree& tree);
   void Emit(std::size_t character, const Attributes& inForce);
   void EmitBytes(std::size_t character);
+  std::string_view WordsInside(Offset begin) const;
   std::string Words(const Attributes& from, const Attributes& to, bool rightToLeft);
   void OpenWrap(std::size_t character, const Attributes& inForce);
   void CloseWrap();
   void AppendBehind(std::size_t characters, std::string_view own);
+  void KeepApart(std::size_t characters, bool beforeOwn);
+  bool EndsInText(std::size_t character) const;
+  void CopyInFront(std::size_t character, Offset to);
+  void EndCharacter(std::size_t character);
 
   const Document& document_;
   const Source& source_;
@@ -183,28 +189,29 @@ void Writer::NumberColours() {
 
 std::vector<Patch> Writer::Patches() const {
   std::vector<Patch> patches;
-  for (const auto& [begin, end] : document_.Cuts()) patches.push_back({begin, end, ""});
+  std::size_t kept = 0;  // characters in front of the cut
+  for (const auto& [begin, end] : document_.Cuts()) {
+    kept = FirstBehind(begin, kept);
+    Patch patch{begin, end, std::string(WordsInside(begin)), false};
+    if (!patches.empty() && patches.back().end == begin) {
+      patch.behindText = patches.back().behindText;
+    } else if (kept > 0) {
+      patch.behindText = EndsInText(kept - 1) && origins_[kept - 1].end() == begin;
+      if (IsUnfinished(kept - 1)) patch.bytes.insert(0, "\n{}");
+    }
+    patches.push_back(patch);
+  }
   if (colours_.HasNew()) {
     const ColourTable& table = source_.colours;
-    patches.push_back({table.end, table.end, colours_.TableInsertion()});
+    patches.push_back({table.end, table.end, colours_.TableInsertion(), false});
     if (table.expandedEnd != 0) {
-      patches.push_back({table.expandedEnd, table.expandedEnd, colours_.MirrorInsertion()});
+      patches.push_back({table.expandedEnd, table.expandedEnd, colours_.MirrorInsertion(), false});
     }
   }
   std::stable_sort(patches.begin(), patches.end(), [](const Patch& a, const Patch& b) {
     return a.begin < b.begin || (a.begin == b.begin && a.end < b.end);
   });
   return patches;
-}
-
-// Whether without the group's braces two broken characters, halves of a pair or of a sequence of
-// bytes, could become a whole one.
-bool Writer::KeepsPartsApart(const MarkGroup& group, std::size_t from) const {
-  const Span inside = CharactersOf(group, from);
-  const std::u32string& text = document_.Text();
-  const auto broken = [&](std::size_t at) { return at < text.size() && text[at] == kReplacement; };
-  return broken(inside.begin) || broken(inside.begin - 1) || broken(inside.end) ||
-         broken(inside.end - 1);
 }
 
 // Visits the braces of a tree's groups and the characters between them in the order of the file.
@@ -259,6 +266,7 @@ void Writer::EmitTree(const Tree& tree) {
     std::vector<std::vector<FormatId>> direct;
     std::vector<Attributes> inForce;
     std::vector<bool> kept;
+    std::size_t next;  // the character that comes next
 
     void Open(std::size_t index) {
       const MarkGroup& group = writer.source_.groups[index];
@@ -267,34 +275,38 @@ void Writer::EmitTree(const Tree& tree) {
       const std::vector<FormatId>& formats = direct[index - tree.first];
       const bool wanted = std::any_of(formats.begin(), formats.end(),
                                       [&](FormatId id) { return writer.targets_[id] == inside; });
-      const bool keep =
-          (inside != outside && wanted) || writer.KeepsPartsApart(group, tree.inside.begin);
+      const bool keep = inside != outside && wanted;
       writer.CloseWrap();
-      writer.out_.CopyTo(group.open);
+      writer.CopyInFront(next, group.open);
       if (keep) {
         writer.out_.CopyTo(group.content);
       } else {
         writer.out_.SkipTo(group.content);
+        writer.KeepApart(next, false);
       }
       kept.push_back(keep);
       inForce.push_back(keep ? inside : outside);
     }
-    void Character(std::size_t character, std::size_t) { writer.Emit(character, inForce.back()); }
+    void Character(std::size_t character, std::size_t) {
+      writer.Emit(character, inForce.back());
+      next = character + 1;
+    }
     void Close(std::size_t index) {
       const Offset brace = writer.source_.groups[index].close;
       writer.CloseWrap();
-      writer.out_.CopyTo(brace);
+      writer.CopyInFront(next, brace);
       if (kept.back()) {
         writer.out_.CopyTo(brace + 1);
       } else {
         writer.out_.SkipTo(brace + 1);
+        writer.KeepApart(next, false);
       }
       kept.pop_back();
       inForce.pop_back();
     }
   };
   const Attributes outside = source_.groups[tree.first].outside;
-  Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}};
+  Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}, tree.inside.begin};
   Walk(tree, emitter);
 }
 
@@ -303,34 +315,42 @@ void Writer::Emit(std::size_t character, const Attributes& inForce) {
   const Attributes& target = Target(character);
   const bool rightToLeft = document_.Formats()[formatIds_[character]].look.rightToLeft;
   const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
-                      wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kOpen &&
+                      wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kSplit &&
                       out_.OnlyLineEndsUpTo(origin.begin);
   if (!goesOn) CloseWrap();
-  out_.CopyTo(origin.begin);
-  if (target == inForce || goesOn) {
-    EmitBytes(character);
-  } else if (origin.kind == Origin::kOpen) {
-    AppendBehind(character, Words(inForce, target, rightToLeft));
-    EmitBytes(character);
-    AppendBehind(character + 1, Words(target, inForce, rightToLeft));
-  } else {
-    OpenWrap(character, inForce);
-    EmitBytes(character);
-  }
+  CopyInFront(character, origin.begin);
+  if (origin.kind == Origin::kSplit && target != inForce) out_.Append(WordsInside(origin.begin));
+  if (target != inForce && !goesOn) OpenWrap(character, inForce);
+  EmitBytes(character);
+  EndCharacter(character);
   wrap_.end = character + 1;
+}
+
+// The words between the halves of a split pair; nothing for any other character.
+std::string_view Writer::WordsInside(Offset begin) const {
+  const auto& pairs = source_.splitPairs;
+  const auto pair = std::lower_bound(pairs.begin(), pairs.end(), begin,
+                                     [](const SplitPair& p, Offset at) { return p.begin < at; });
+  if (pair == pairs.end() || pair->begin != begin) return {};
+  return std::string_view(source_.bytes)
+      .substr(pair->wordsBegin, pair->wordsEnd - pair->wordsBegin);
 }
 
 void Writer::EmitBytes(std::size_t character) {
   const Origin& origin = origins_[character];
-  if (!origin.IsTyped()) {
+  // The halves of a split pair that is wrapped come together: the words stand in front.
+  const bool joined = origin.kind == Origin::kSplit && wrap_.open;
+  if (!origin.IsTyped() && !joined) {
     out_.CopyTo(origin.end());
     return;
   }
+  KeepApart(character, true);
   const CharacterLook& look = document_.Formats()[formatIds_[character]].look;
   std::string bytes;
   AppendCharacter(bytes, document_.Text()[character], look.fallback,
                   document_.Fonts()[look.font].symbol);
   out_.Append(bytes);
+  if (joined) out_.SkipTo(origin.end());
 }
 
 std::string Writer::Words(const Attributes& from, const Attributes& to, bool rightToLeft) {
@@ -365,8 +385,50 @@ void Writer::CloseWrap() {
 // Appends words of our own behind so many characters. The first byte of a broken sequence would
 // take a brace or backslash for its second one; a line end, which is nothing, stands between.
 void Writer::AppendBehind(std::size_t characters, std::string_view own) {
-  if (characters > 0 && document_.Text()[characters - 1] == kReplacement) out_.Append("\n");
+  if (characters > 0 && document_.Text()[characters - 1] == kReplacement) out_.EndLine();
   out_.Append(own);
+}
+
+bool Writer::IsUnfinished(std::size_t character) const {
+  const Origin& origin = origins_[character];
+  const std::string_view bytes =
+      std::string_view(source_.bytes).substr(origin.begin, origin.length);
+  return rtf::IsUnfinished(bytes, document_.Text()[character],
+                           document_.Formats()[formatIds_[character]].look.fallback);
+}
+
+// Where the copy stands behind so many characters and leaves out what the source has there, or is
+// about to put in text of its own: the last of them may be one that only a brace ends.
+void Writer::KeepApart(std::size_t characters, bool beforeOwn) {
+  if (characters == 0 || !IsUnfinished(characters - 1)) return;
+  if (out_.HasBraceSinceMark() || (!beforeOwn && out_.IsBeforeBrace())) return;
+  AppendBehind(characters, "{}");
+}
+
+// Whether a character is bytes as they are, so that no control word reaches over its end. The last
+// of them may look like a backslash.
+bool Writer::EndsInText(std::size_t character) const {
+  const Origin& origin = origins_[character];
+  if (origin.IsTyped()) return false;
+  const char first = source_.bytes[origin.begin];
+  return first != '\\' && first != '{';
+}
+
+// Copies what stands in front of a character up to an offset.
+void Writer::CopyInFront(std::size_t character, Offset to) {
+  if (character > 0) {
+    const Offset end = origins_[character - 1].end();
+    if (out_.At() <= end && end <= to) {
+      out_.CopyTo(end);
+      EndCharacter(character - 1);
+    }
+  }
+  out_.CopyTo(to);
+}
+
+void Writer::EndCharacter(std::size_t character) {
+  out_.Mark();
+  if (EndsInText(character)) out_.EndText();
 }
 
 }  // namespace

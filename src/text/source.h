@@ -23,9 +23,7 @@ struct Origin {
     kPlain = 0,
     kCellEnd = 1,
     kRowEnd = 2,
-    // The bytes hold words that change the state of what follows (two halves of a pair with
-    // formatting between them): they can't be put into a group of their own.
-    kOpen = 3,
+    kSplit = 3,  // two halves of a pair with formatting between them: see SplitPair
   };
 
   Offset begin = 0;
@@ -51,6 +49,16 @@ struct MarkGroup {
   bool operator==(const MarkGroup&) const = default;
 };
 
+// Words that stand between the two halves of a surrogate pair, inside the bytes of one character.
+// They hold for what follows, so that they must not come into a group with the character.
+struct SplitPair {
+  Offset begin = 0;  // of the character
+  Offset wordsBegin = 0;
+  Offset wordsEnd = 0;
+
+  bool operator==(const SplitPair&) const = default;
+};
+
 // The colour table of the file, entries numbered from 0.
 struct ColourTable {
   struct Entry {
@@ -69,8 +77,9 @@ struct ColourTable {
 struct Source {
   std::string bytes;
   ColourTable colours;
-  std::vector<MarkGroup> groups;  // in the order of their opening braces, nested ones included
-  Offset bodyEnd = 0;             // where a first character of an empty text goes in
+  std::vector<MarkGroup> groups;      // in the order of their opening braces, nested ones included
+  std::vector<SplitPair> splitPairs;  // in order
+  Offset bodyEnd = 0;                 // where a first character of an empty text goes in
 };
 
 }  // namespace quill

@@ -1,0 +1,89 @@
+#include "round_trip/round_trip.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+
+#include "text/unicode.h"
+
+namespace quill {
+namespace {
+
+// Files hold a raised position in half-points: what was raised stays raised, and by the same
+// amount but for rounding.
+bool SameInFile(Attributes a, Attributes b) {
+  const bool near = std::abs(a.offset - b.offset) <= 5 ||
+                    (a.offset != 0 && b.offset != 0 && std::abs(a.offset - b.offset) < 10);
+  const bool sameSide = (a.offset > 0) == (b.offset > 0) && (a.offset < 0) == (b.offset < 0);
+  a.offset = b.offset = 0;
+  return near && sameSide && a == b;
+}
+
+std::string Words(const Attributes& attributes) {
+  return "colour " + std::to_string(attributes.colour) + (attributes.bold ? ", bold" : "") +
+         (attributes.underline ? ", underlined" : "") + ", raised by " +
+         std::to_string(attributes.offset);
+}
+
+std::string Near(const Document& document, Position at) {
+  constexpr Position kAround = 8;
+  const auto begin = static_cast<std::size_t>(std::max<Position>(0, at - kAround));
+  return "\"" + ToUtf8(document.Text().substr(begin, 2 * kAround)) + "\"";
+}
+
+}  // namespace
+
+std::string Difference(const Document& expected, const Document& actual) {
+  const std::u32string& text = expected.Text();
+  const auto differs =
+      std::mismatch(text.begin(), text.end(), actual.Text().begin(), actual.Text().end());
+  if (differs.first != text.end() || differs.second != actual.Text().end()) {
+    const Position at = differs.first - text.begin();
+    return "the text differs at " + std::to_string(at) + ": " + Near(expected, at) + ", now " +
+           Near(actual, at);
+  }
+  for (Position at = 0; at < expected.Length(); ++at) {
+    const Format& a = expected.FormatAt(at);
+    const Format& b = actual.FormatAt(at);
+    if (SameInFile(a.now, b.now) && a.look == b.look && a.paragraph == b.paragraph) continue;
+    const std::string place = " at " + std::to_string(at) + " in " + Near(expected, at);
+    if (!SameInFile(a.now, b.now)) {
+      return "attributes differ" + place + ": " + Words(a.now) + "; now " + Words(b.now);
+    }
+    return (a.look != b.look ? "the look differs" : "the paragraph differs") + place;
+  }
+  return "";
+}
+
+std::vector<Attributes> AttributesOf(const Document& document, Range range) {
+  std::vector<Attributes> attributes;
+  attributes.reserve(static_cast<std::size_t>(range.Length()));
+  for (Position at = range.begin; at < range.end; ++at) attributes.push_back(document.At(at));
+  return attributes;
+}
+
+void Restore(Document& document, Range range, const std::vector<Attributes>& attributes) {
+  Position at = range.begin;
+  for (auto first = attributes.begin(); first != attributes.end();) {
+    const auto last =
+        std::find_if(first, attributes.end(), [&](const Attributes& a) { return a != *first; });
+    const Position end = at + (last - first);
+    document.Apply({at, end}, {first->colour, first->bold, first->underline, first->offset});
+    at = end;
+    first = last;
+  }
+}
+
+void Mark(Document& document, Range range, Position seed) {
+  static const AttributeChange kLooks[] = {
+      {.colour = RGB(0, 0, 255)},
+      {.colour = RGB(255, 0, 0), .bold = true},
+      {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
+      {.underline = true},
+      {.colour = RGB(0, 0, 0), .bold = false},
+      {.colour = RGB(192, 0, 192), .bold = true, .underline = true},
+      {.colour = RGB(0, 0, 0), .bold = false, .underline = false, .offset = 0}};
+  document.Apply(range, kLooks[static_cast<std::size_t>(seed) % std::size(kLooks)]);
+}
+
+}  // namespace quill

@@ -1,0 +1,23 @@
+// What must hold of every rich text that is loaded, marked and saved, in a form that tests, the
+// checking tool and the fuzz targets share.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/document.h"
+
+namespace quill {
+
+// Where two texts differ: in a character, in one of its four attributes (as far as a file can hold
+// them), or in the rest of its look. Empty where they do not.
+std::string Difference(const Document& expected, const Document& actual);
+
+// The attributes of every character of a range, for Restore.
+std::vector<Attributes> AttributesOf(const Document& document, Range range);
+void Restore(Document& document, Range range, const std::vector<Attributes>& attributes);
+
+// Gives a range one of the looks that marks have, by the seed.
+void Mark(Document& document, Range range, Position seed);
+
+}  // namespace quill
