@@ -92,14 +92,15 @@ TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
 std::vector<std::string> BrokenFiles() {
   const std::string fonts = "{\\rtf1{\\fonttbl{\\f0 A;}{\\f1\\fcharset128 J;}}" + kTable;
   return {
-      fonts + "\\f1\\'83{\\b A}}",                // a lead byte in front of a mark
-      fonts + "\\f1 x\xF7\x08y}",                 // a raw one, which would take a brace
-      fonts + "\\f1 \x83\\par {A}}",              // one that only a paragraph's end breaks off
-      fonts + "\\f1{\\b\\cf1\\'83}A\\'83\\i B}",  // and one that a mark's brace does
-      fonts + "\\u55357?{\\b\\u56842?}x}",        // two halves that are no pair
-      fonts + "\\u55357?x\\u56842?}",             // nor these
-      fonts + "\\upr xyz}",                       // no group to choose from
-      fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",   // a brace ends what stands in for a character
+      fonts + "\\f1\\'83{\\b A}}",                    // a lead byte in front of a mark
+      fonts + "\\f1 x\xF7\x08y}",                     // a raw one, which would take a brace
+      fonts + "\\f1 \x83\\par {A}}",                  // one that only a paragraph's end breaks off
+      fonts + "\\f1{\\b\\cf1\\'83}A\\'83\\i B}",      // and one that a mark's brace does
+      fonts + "\\u55357?{\\b\\u56842?}x}",            // two halves that are no pair
+      fonts + "\\u55357?x\\u56842?}",                 // nor these
+      fonts + "{x\\pict 00}{\\i\\pict}y{\\object}}",  // pictures without a group of their own
+      fonts + "\\upr xyz}",                           // no group to choose from
+      fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",       // a brace ends what stands in for a character
       fonts + "{\\uc3\\u8217 x}y\\uc2\\u8217 {\\pict 00}z\\u8217?}",
       "{\\rtf1 xyz{\\colortbl;\\red9;\\",  // a table that breaks off at a backslash
       "{\\rtf1 xyz\\",

@@ -11,10 +11,10 @@
 #include <utility>
 #include <vector>
 
+#include "rtf/character_bytes.h"
 #include "rtf/colour_numbers.h"
 #include "rtf/encode.h"
 #include "rtf/patched_copy.h"
-#include "rtf/unfinished.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -51,7 +51,11 @@ class Writer {
 
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
-    return IsChanged(character) || origins_[character].IsTyped();
+    return IsChanged(character) || origins_[character].IsTyped() ||
+           (IsTyped(character + 1) && bytesOf_.AreBareObject(character));
+  }
+  bool IsTyped(std::size_t character) const {
+    return character < origins_.size() && origins_[character].IsTyped();
   }
   const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
   std::size_t FirstBehind(Offset offset, std::size_t from) const;
@@ -60,20 +64,17 @@ class Writer {
   void NumberColours();
   std::vector<Patch> Patches() const;
 
-  bool IsUnfinished(std::size_t character) const;
   template <class Visitor>
   void Walk(const Tree& tree, Visitor&& visitor) const;
   std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
   void EmitTree(const Tree& tree);
   void Emit(std::size_t character, const Attributes& inForce);
   void EmitBytes(std::size_t character);
-  std::string_view WordsInside(Offset begin) const;
   std::string Words(const Attributes& from, const Attributes& to, bool rightToLeft);
   void OpenWrap(std::size_t character, const Attributes& inForce);
   void CloseWrap();
   void AppendBehind(std::size_t characters, std::string_view own);
   void KeepApart(std::size_t characters, bool beforeOwn);
-  bool EndsInText(std::size_t character) const;
   void CopyInFront(std::size_t character, Offset to);
   void EndCharacter(std::size_t character);
 
@@ -81,6 +82,7 @@ class Writer {
   const Source& source_;
   const std::vector<FormatId>& formatIds_;
   const std::vector<Origin>& origins_;
+  const CharacterBytes bytesOf_;
   std::vector<Attributes> targets_;  // of each format, as the file is to have it
   std::vector<char> changed_;        // whether that differs from what its place has
   std::vector<Tree> touched_;        // groups with a changed character in them, in order
@@ -103,6 +105,7 @@ Writer::Writer(const Document& document)
       source_(document.GetSource()),
       formatIds_(document.FormatIds()),
       origins_(document.Origins()),
+      bytesOf_(document),
       colours_(source_.colours),
       out_("", {}) {
   const FormatTable& formats = document.Formats();
@@ -192,12 +195,12 @@ std::vector<Patch> Writer::Patches() const {
   std::size_t kept = 0;  // characters in front of the cut
   for (const auto& [begin, end] : document_.Cuts()) {
     kept = FirstBehind(begin, kept);
-    Patch patch{begin, end, std::string(WordsInside(begin)), false};
+    Patch patch{begin, end, std::string(bytesOf_.Inside(begin)), false};
     if (!patches.empty() && patches.back().end == begin) {
       patch.behindText = patches.back().behindText;
     } else if (kept > 0) {
-      patch.behindText = EndsInText(kept - 1) && origins_[kept - 1].end() == begin;
-      if (IsUnfinished(kept - 1)) patch.bytes.insert(0, "\n{}");
+      patch.behindText = bytesOf_.EndInText(kept - 1) && origins_[kept - 1].end() == begin;
+      if (bytesOf_.IsUnfinished(kept - 1)) patch.bytes.insert(0, "\n{}");
     }
     patches.push_back(patch);
   }
@@ -319,21 +322,12 @@ void Writer::Emit(std::size_t character, const Attributes& inForce) {
                       out_.OnlyLineEndsUpTo(origin.begin);
   if (!goesOn) CloseWrap();
   CopyInFront(character, origin.begin);
-  if (origin.kind == Origin::kSplit && target != inForce) out_.Append(WordsInside(origin.begin));
+  if (origin.kind == Origin::kSplit && target != inForce)
+    out_.Append(bytesOf_.WordsInside(character));
   if (target != inForce && !goesOn) OpenWrap(character, inForce);
   EmitBytes(character);
   EndCharacter(character);
   wrap_.end = character + 1;
-}
-
-// The words between the halves of a split pair; nothing for any other character.
-std::string_view Writer::WordsInside(Offset begin) const {
-  const auto& pairs = source_.splitPairs;
-  const auto pair = std::lower_bound(pairs.begin(), pairs.end(), begin,
-                                     [](const SplitPair& p, Offset at) { return p.begin < at; });
-  if (pair == pairs.end() || pair->begin != begin) return {};
-  return std::string_view(source_.bytes)
-      .substr(pair->wordsBegin, pair->wordsEnd - pair->wordsBegin);
 }
 
 void Writer::EmitBytes(std::size_t character) {
@@ -341,7 +335,10 @@ void Writer::EmitBytes(std::size_t character) {
   // The halves of a split pair that is wrapped come together: the words stand in front.
   const bool joined = origin.kind == Origin::kSplit && wrap_.open;
   if (!origin.IsTyped() && !joined) {
+    const bool bare = bytesOf_.AreBareObject(character);
+    if (bare) out_.Append("{");
     out_.CopyTo(origin.end());
+    if (bare) out_.Append("}");
     return;
   }
   KeepApart(character, true);
@@ -389,29 +386,12 @@ void Writer::AppendBehind(std::size_t characters, std::string_view own) {
   out_.Append(own);
 }
 
-bool Writer::IsUnfinished(std::size_t character) const {
-  const Origin& origin = origins_[character];
-  const std::string_view bytes =
-      std::string_view(source_.bytes).substr(origin.begin, origin.length);
-  return rtf::IsUnfinished(bytes, document_.Text()[character],
-                           document_.Formats()[formatIds_[character]].look.fallback);
-}
-
 // Where the copy stands behind so many characters and leaves out what the source has there, or is
 // about to put in text of its own: the last of them may be one that only a brace ends.
 void Writer::KeepApart(std::size_t characters, bool beforeOwn) {
-  if (characters == 0 || !IsUnfinished(characters - 1)) return;
+  if (characters == 0 || !bytesOf_.IsUnfinished(characters - 1)) return;
   if (out_.HasBraceSinceMark() || (!beforeOwn && out_.IsBeforeBrace())) return;
   AppendBehind(characters, "{}");
-}
-
-// Whether a character is bytes as they are, so that no control word reaches over its end. The last
-// of them may look like a backslash.
-bool Writer::EndsInText(std::size_t character) const {
-  const Origin& origin = origins_[character];
-  if (origin.IsTyped()) return false;
-  const char first = source_.bytes[origin.begin];
-  return first != '\\' && first != '{';
 }
 
 // Copies what stands in front of a character up to an offset.
@@ -428,7 +408,7 @@ void Writer::CopyInFront(std::size_t character, Offset to) {
 
 void Writer::EndCharacter(std::size_t character) {
   out_.Mark();
-  if (EndsInText(character)) out_.EndText();
+  if (bytesOf_.EndInText(character)) out_.EndText();
 }
 
 }  // namespace

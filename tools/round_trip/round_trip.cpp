@@ -19,6 +19,12 @@ bool SameInFile(Attributes a, Attributes b) {
   return near && sameSide && a == b;
 }
 
+// Roughly: punctuation and blanks beyond Latin-1 count as letters, which does no harm here.
+bool IsLetter(char32_t c) {
+  return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') ||
+         (c >= 0xC0 && c != kLineBreak && c != kObject && c != kReplacement);
+}
+
 std::string Words(const Attributes& attributes) {
   return "colour " + std::to_string(attributes.colour) + (attributes.bold ? ", bold" : "") +
          (attributes.underline ? ", underlined" : "") + ", raised by " +
@@ -84,6 +90,29 @@ void Mark(Document& document, Range range, Position seed) {
       {.colour = RGB(192, 0, 192), .bold = true, .underline = true},
       {.colour = RGB(0, 0, 0), .bold = false, .underline = false, .offset = 0}};
   document.Apply(range, kLooks[static_cast<std::size_t>(seed) % std::size(kLooks)]);
+}
+
+std::vector<Range> MarkWords(Document& document) {
+  static const AttributeChange kLooks[] = {{.colour = RGB(0, 0, 255), .bold = true},
+                                           {.colour = RGB(255, 0, 0)},
+                                           {.underline = true},
+                                           {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
+                                           {.colour = RGB(128, 128, 255), .bold = true}};
+  constexpr std::size_t kEvery = 3;
+  std::vector<Range> marks;
+  const std::u32string& text = document.Text();
+  std::size_t words = 0;
+  auto word = text.begin();
+  while ((word = std::find_if(word, text.end(), IsLetter)) != text.end()) {
+    const auto end = std::find_if_not(word, text.end(), IsLetter);
+    const Range range{word - text.begin(), end - text.begin()};
+    if (words++ % kEvery == 0 &&
+        !document.Apply(range, kLooks[marks.size() % std::size(kLooks)]).empty()) {
+      marks.push_back(range);
+    }
+    word = end;
+  }
+  return marks;
 }
 
 }  // namespace quill

@@ -20,4 +20,8 @@ void Restore(Document& document, Range range, const std::vector<Attributes>& att
 // Gives a range one of the looks that marks have, by the seed.
 void Mark(Document& document, Range range, Position seed);
 
+// Marks every third word, a letter or more, with the looks of marks in turn, so that something of
+// it changes. Returns the words.
+std::vector<Range> MarkWords(Document& document);
+
 }  // namespace quill
