@@ -74,6 +74,7 @@ TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
       {"{\\rtf1 x}", "{\\rtf1 {\\colortbl;\\red0\\green0\\blue255;}{\\cf1\\b x}}"},
       {"{\\rtf1{\\fonttbl{\\f0 A;}}x}",
        "{\\rtf1{\\fonttbl{\\f0 A;}}{\\colortbl;\\red0\\green0\\blue255;}{\\cf1\\b x}}"},
+      {"{\\rtfx y}", "{\\rtfx {\\colortbl;\\red0\\green0\\blue255;}{\\cf1\\b y}}"},
       {"{\\rtf1{\\colortbl;\\red9;}x}",
        "{\\rtf1{\\colortbl;\\red9;\\red0\\green0\\blue255;}{\\cf2\\b x}}"},
       {"{\\rtf1{\\colortbl;\\red9}x}",
@@ -99,6 +100,8 @@ std::vector<std::string> BrokenFiles() {
       fonts + "\\u55357?{\\b\\u56842?}x}",            // two halves that are no pair
       fonts + "\\u55357?x\\u56842?}",                 // nor these
       fonts + "{x\\pict 00}{\\i\\pict}y{\\object}}",  // pictures without a group of their own
+      fonts + "\\f1\\'83\\'\xFF\xFF y}",              // one of them inside a sequence
+      fonts + "\\'4xy\\'z\\'}",                       // numbers that lack digits
       fonts + "\\upr xyz}",                           // no group to choose from
       fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",       // a brace ends what stands in for a character
       fonts + "{\\uc3\\u8217 x}y\\uc2\\u8217 {\\pict 00}z\\u8217?}",

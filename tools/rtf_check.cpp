@@ -14,6 +14,7 @@
 #include "round_trip/round_trip.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "text/unicode.h"
 
 namespace quill {
 namespace {
@@ -81,14 +82,17 @@ class Copies {
   std::optional<fs::path> folder_;
 };
 
-// A line for each mark: its begin, its end, and the attributes that it has: colour, bold, underline
-// and raised position.
+// A line for each mark: its begin, its end, the attributes that it has (colour, bold, underline and
+// raised position), and the word.
 std::string ListOf(const Document& document, const std::vector<Range>& marks) {
   std::ostringstream list;
   for (const Range& mark : marks) {
     const Attributes& a = document.At(mark.begin);
     list << mark.begin << ' ' << mark.end << ' ' << a.colour << ' ' << a.bold << ' ' << a.underline
-         << ' ' << a.offset << '\n';
+         << ' ' << a.offset << ' '
+         << ToUtf8(document.Text().substr(static_cast<std::size_t>(mark.begin),
+                                          static_cast<std::size_t>(mark.Length())))
+         << '\n';
   }
   return list.str();
 }

@@ -139,7 +139,9 @@ void TextReader::EndHeader(const WordEntry* entry, const Token& token) {
                       word == Word::kFallback;
   if (header) return;
   headerEnded_ = true;
-  if (tablePlace_ == 0) tablePlace_ = token.begin;
+  // The word with which the file begins stays where it is, whatever it is.
+  const bool first = bytes_[token.begin - 1] == '{' && text_.Size() == 0 && states_.Depth() == 1;
+  if (tablePlace_ == 0) tablePlace_ = first && token.kind == Token::kWord ? token.end : token.begin;
 }
 
 }  // namespace quill::rtf

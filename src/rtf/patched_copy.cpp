@@ -17,12 +17,21 @@ std::size_t BackslashesAtEnd(std::string_view bytes) {
   return last == std::string_view::npos ? bytes.size() : bytes.size() - 1 - last;
 }
 
-// How the bytes end: in the letters of a control word, in its number, or otherwise.
-enum class Ending { kOther, kLetters, kNumber };
+// How the bytes end: in the letters of a control word, in its number, in a \'hh that lacks digits,
+// or otherwise.
+enum class Ending { kOther, kLetters, kNumber, kShortHex };
+
+bool EndsInShortHex(std::string_view bytes) {
+  if (!bytes.empty() && IsHexDigit(bytes.back())) bytes.remove_suffix(1);
+  if (bytes.empty() || bytes.back() != '\'') return false;
+  bytes.remove_suffix(1);
+  return BackslashesAtEnd(bytes) % 2 == 1;
+}
 
 Ending EndingOf(std::string_view bytes) {
   // No word is longer; a long run of letters is text.
   constexpr std::size_t kLongest = 300;
+  if (EndsInShortHex(bytes)) return Ending::kShortHex;
   const std::string_view tail = bytes.substr(bytes.size() - std::min(bytes.size(), kLongest));
   std::size_t at = tail.size();
   while (at > 0 && IsDigit(tail[at - 1])) --at;
@@ -64,7 +73,7 @@ void PatchedCopy::CopyTo(Offset to) {
 
 void PatchedCopy::CopyBytes(Offset to) {
   if (to <= at_) return;
-  if (seam_ && NeedsBlank(source_[at_])) out_ += ' ';
+  if (seam_) out_ += Separator(source_[at_]);
   seam_ = false;
   out_ += source_.substr(at_, to - at_);
   at_ = to;
@@ -80,23 +89,26 @@ void PatchedCopy::Append(std::string_view own) {
   if (own.empty()) return;
   // A backslash with which a file breaks off takes a blank, not what is put behind it.
   const bool dangling = at_ == source_.size() && BackslashesAtEnd(out_) % 2 == 1;
-  if (dangling || NeedsBlank(own.front())) out_ += ' ';
+  out_ += dangling ? " " : Separator(own.front());
   out_ += own;
   seam_ = true;
 }
 
-// Whether the next byte would belong to a control word in front of it.
-bool PatchedCopy::NeedsBlank(char next) const {
-  if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return false;
+// What must stand between the copy so far and a byte that comes next, so that these are not read
+// together: a control word is ended by a blank, a \'hh by a line end.
+std::string_view PatchedCopy::Separator(char next) const {
+  if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return "";
   switch (EndingOf(std::string_view(out_).substr(textEnd_))) {
     case Ending::kLetters:
-      return true;
+      return " ";
     case Ending::kNumber:
-      return IsDigit(next) || next == ' ';
+      return IsDigit(next) || next == ' ' ? " " : "";
+    case Ending::kShortHex:
+      return IsHexDigit(next) ? "\n" : "";
     case Ending::kOther:
-      return false;
+      return "";
   }
-  return false;
+  return "";
 }
 
 bool PatchedCopy::IsBeforeBrace() const {

@@ -44,7 +44,7 @@ class PatchedCopy {
 
  private:
   void CopyBytes(Offset to);
-  bool NeedsBlank(char next) const;
+  std::string_view Separator(char next) const;
 
   std::string_view source_;
   std::vector<Patch> patches_;

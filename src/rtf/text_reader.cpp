@@ -123,7 +123,11 @@ void TextReader::TakeText(const Token& token) {
 }
 
 void TextReader::TakeHex(const Token& token) {
-  if (token.number < 0) return marks_.Other();
+  if (token.number < 0) {
+    // Among the bytes of a character it belongs to that.
+    if (!text_.AwaitsByte()) marks_.Other();
+    return;
+  }
   marks_.Characters();
   text_.AddByte(static_cast<unsigned char>(token.number), token.begin, token.end);
 }
