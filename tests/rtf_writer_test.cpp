@@ -80,7 +80,8 @@ TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
       {"{\\rtf1{\\colortbl;\\red9}x}",
        "{\\rtf1{\\colortbl;\\red9;\\red0\\green0\\blue255;}{\\cf2\\b x}}"},
       {"{\\rtf1{\\colortbl;}{\\header\\cb3 h}x}",
-       "{\\rtf1{\\colortbl;;;;\\red0\\green0\\blue255;}{\\header\\cb3 h}{\\cf4\\b x}}"},
+       "{\\rtf1{\\colortbl;\\red0\\green0\\blue0;\\red0\\green0\\blue0;\\red0\\green0\\blue0;"
+       "\\red0\\green0\\blue255;}{\\header\\cb3 h}{\\cf4\\b x}}"},
       {"{\\rtf1{\\colortbl;}{\\*\\expandedcolortbl;}x}",
        "{\\rtf1{\\colortbl;\\red0\\green0\\blue255;}{\\*\\expandedcolortbl;"
        "\\cssrgb\\c0\\c0\\c100000;}"

@@ -17,7 +17,7 @@ bool LacksFallback(std::string_view bytes, std::uint32_t fallback) {
   Lexer lexer(bytes);
   for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
     if (token.kind == Token::kIgnored) continue;
-    if (token.kind == Token::kWord && token.word == "u") {
+    if (lacking == 0 && token.kind == Token::kWord && token.word == "u") {
       lacking = fallback;
     } else {
       const Offset taken = token.kind == Token::kText ? token.end - token.begin : 1;

@@ -31,12 +31,22 @@ std::uint32_t ColourNumbers::NumberOf(Colour colour) {
 std::string ColourNumbers::TableInsertion() const {
   std::string text = table_.present ? "" : "{\\colortbl";
   if (!table_.endsInSemicolon) text += ';';
-  text.append(Gap(), ';');
+  text += GapEntries();
   for (const Colour colour : added_) {
     text += "\\red" + std::to_string(Part(colour, 0)) + "\\green" +
             std::to_string(Part(colour, 1)) + "\\blue" + std::to_string(Part(colour, 2)) + ";";
   }
   if (!table_.present) text += '}';
+  return text;
+}
+
+// Entries that words of the file name, but the table lacks, have been black to other programs so
+// far. The first entry of a table is the automatic colour.
+std::string ColourNumbers::GapEntries() const {
+  std::string text;
+  for (std::size_t number = table_.entries.size(); number < firstNew_; ++number) {
+    text += number == 0 ? ";" : "\\red0\\green0\\blue0;";
+  }
   return text;
 }
 

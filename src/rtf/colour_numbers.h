@@ -27,6 +27,7 @@ class ColourNumbers {
   std::string MirrorInsertion() const;
 
  private:
+  std::string GapEntries() const;
   std::size_t Gap() const { return firstNew_ - table_.entries.size(); }
 
   const ColourTable& table_;

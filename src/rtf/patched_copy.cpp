@@ -113,7 +113,7 @@ std::string_view PatchedCopy::Separator(char next) const {
 
 bool PatchedCopy::IsBeforeBrace() const {
   const std::size_t next = source_.find_first_not_of(kLineEnds, at_);
-  return next != std::string_view::npos && (source_[next] == '{' || source_[next] == '}');
+  return next == std::string_view::npos || source_[next] == '{' || source_[next] == '}';
 }
 
 void PatchedCopy::EndLine() {

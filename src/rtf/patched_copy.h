@@ -36,7 +36,7 @@ class PatchedCopy {
   // Marks the end of the copy; whether a brace came behind the mark.
   void Mark() { mark_ = out_.size(); }
   bool HasBraceSinceMark() const { return out_.find_first_of("{}", mark_) != std::string::npos; }
-  // Whether a brace comes next in the source, line ends apart.
+  // Whether a brace comes next in the source, or its end, line ends apart.
   bool IsBeforeBrace() const;
   // Makes the copy end in a line end, with the one that the source has here if there is one.
   void EndLine();
