@@ -94,11 +94,12 @@ TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {
 std::vector<std::string> BrokenFiles() {
   const std::string fonts = "{\\rtf1{\\fonttbl{\\f0 A;}{\\f1\\fcharset128 J;}}" + kTable;
   return {
-      fonts + "\\f1\\'83{\\b A}}",                    // a lead byte in front of a mark
-      fonts + "\\f1 x\xF7\x08y}",                     // a raw one, which would take a brace
-      fonts + "\\f1 \x83\\par {A}}",                  // one that only a paragraph's end breaks off
-      fonts + "\\f1{\\b\\cf1\\'83}A\\'83\\i B}",      // and one that a mark's brace does
-      fonts + "\\u55357?{\\b\\u56842?}x}",            // two halves that are no pair
+      fonts + "\\f1\\'83{\\b A}}",                // a lead byte in front of a mark
+      fonts + "\\f1 x\xF7\x08y}",                 // a raw one, which would take a brace
+      fonts + "\\f1 \x83\\par {A}}",              // one that only a paragraph's end breaks off
+      fonts + "\\f1{\\b\\cf1\\'83}A\\'83\\i B}",  // and one that a mark's brace does
+      fonts + "\\u55357?{\\b\\u56842?}x}",        // two halves that are no pair
+      fonts + "\\u55357?\\strike\\cf1 y}",
       fonts + "\\u55357?x\\u56842?}",                 // nor these
       fonts + "{x\\pict 00}{\\i\\pict}y{\\object}}",  // pictures without a group of their own
       fonts + "\\f1\\'83\\'\xFF\xFF y}",              // one of them inside a sequence
@@ -108,6 +109,10 @@ std::vector<std::string> BrokenFiles() {
       fonts + "{\\uc3\\u8217 x}y\\uc2\\u8217 {\\pict 00}z\\u8217?}",
       "{\\rtf1 xyz{\\colortbl;\\red9;\\",  // a table that breaks off at a backslash
       "{\\rtf1 xyz\\",
+      "{\\rtf1 x{\\i{\\pict 0{0",  // a picture that breaks off
+      "{\\rtf1 x{\\pict 0}}{",
+      "{\\rtf1 x\\pict 0",
+      "{\\rtf1 x{\\b y",
       "{\\rtf1{\\colortbl;\\red9;\\red8;}xyz{\\colortbl;\\red7;}",
       "{\\rtf1{\\colortbl}xyz{\\colortbl;",
       "{\\rtf1 xyz{\\colortbl;\\red9;\\bin99 ",

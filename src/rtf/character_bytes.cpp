@@ -53,6 +53,18 @@ bool CharacterBytes::AreBareObject(std::size_t character) const {
   return bytes.size() > 1 && bytes[0] == '\\' && IsLetter(bytes[1]) && bytes[1] != 'u';
 }
 
+std::size_t CharacterBytes::OpenGroups(std::size_t character) const {
+  const bool last = document_.Origins()[character].end() == document_.GetSource().bytes.size();
+  if (document_.Text()[character] != kObject || !last) return 0;
+  std::size_t open = AreBareObject(character) ? 1 : 0;
+  Lexer lexer(Of(character));
+  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
+    if (token.kind == Token::kOpen) ++open;
+    if (token.kind == Token::kClose && open > 0) --open;
+  }
+  return open;
+}
+
 std::string_view CharacterBytes::Inside(Offset begin) const {
   const Source& source = document_.GetSource();
   const auto pair = std::lower_bound(source.splitPairs.begin(), source.splitPairs.end(), begin,

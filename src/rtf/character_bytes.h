@@ -24,6 +24,9 @@ class CharacterBytes {
   // Whether they are a picture or an object without a group of its own: it would take what is put
   // behind it for its data.
   bool AreBareObject(std::size_t character) const;
+  // How many groups an object leaves open because the file breaks off in it; one without a group
+  // of its own counts as one.
+  std::size_t OpenGroups(std::size_t character) const;
   // The words between the halves of a split pair; nothing for any other character.
   std::string_view WordsInside(std::size_t character) const { return Inside(Begin(character)); }
   std::string_view Inside(Offset begin) const;

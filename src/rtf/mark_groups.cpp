@@ -37,6 +37,10 @@ void MarkGroupFinder::Close(Offset at) {
   open_.pop_back();
 }
 
+void MarkGroupFinder::End(Offset at) {
+  while (!open_.empty()) Close(at);
+}
+
 void MarkGroupFinder::GroupIsCharacter() {
   if (!open_.empty()) open_.pop_back();
 }

@@ -19,6 +19,8 @@ class MarkGroupFinder {
   // Anything that is neither.
   void Other() { open_.clear(); }
   void Close(Offset at);
+  // The file ends: whatever is open ends there.
+  void End(Offset at);
   // The group opened last turns out to be one character.
   void GroupIsCharacter();
 

@@ -94,6 +94,7 @@ bool TextBuilder::AddUnicode(std::int32_t number, Offset begin, Offset end) {
   if (IsHighHalf(c)) {
     highHalf_ = c;
     pairIsSplit_ = false;
+    halfFormat_ = states_.Format();
     pairBegin_ = begin;
     pairEnd_ = end;
     return true;
@@ -135,6 +136,8 @@ void TextBuilder::EndPair() {
   if (highHalf_ == 0) return;
   highHalf_ = 0;
   Put(kReplacement, pairBegin_, pairEnd_);
+  // Words may have come since.
+  formats_.back() = halfFormat_;
 }
 
 void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind kind) {

@@ -71,6 +71,7 @@ class TextBuilder {
   Offset reachesAt_ = kNowhere;
   char32_t highHalf_ = 0;     // of a pair, or 0
   bool pairIsSplit_ = false;  // words stand behind the high half
+  FormatId halfFormat_ = 0;   // that in force at the high half
   Offset pairBegin_ = 0;
   Offset pairEnd_ = 0;
 };

@@ -38,6 +38,7 @@ Document TextReader::Read() {
     if (!Take(token)) break;
   }
   text_.Flush();
+  if (!ended_) marks_.End(static_cast<Offset>(bytes_.size()));
   if (!headerEnded_) tablePlace_ = bodyEnd;
   if (!tables_.colours.present) tables_.colours.end = tablePlace_;
   const FormatId endFormat = states_.Format();

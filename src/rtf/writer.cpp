@@ -52,7 +52,11 @@ class Writer {
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
     return IsChanged(character) || origins_[character].IsTyped() ||
-           (IsTyped(character + 1) && bytesOf_.AreBareObject(character));
+           (IsTyped(character + 1) && IsLooseObject(character));
+  }
+  // Whether an object takes what is put behind it for its data.
+  bool IsLooseObject(std::size_t character) const {
+    return bytesOf_.AreBareObject(character) || bytesOf_.OpenGroups(character) > 0;
   }
   bool IsTyped(std::size_t character) const {
     return character < origins_.size() && origins_[character].IsTyped();
@@ -296,12 +300,14 @@ void Writer::EmitTree(const Tree& tree) {
     }
     void Close(std::size_t index) {
       const Offset brace = writer.source_.groups[index].close;
+      const auto size = static_cast<Offset>(writer.source_.bytes.size());
+      const Offset behind = std::min<Offset>(brace + 1, size);
       writer.CloseWrap();
       writer.CopyInFront(next, brace);
       if (kept.back()) {
-        writer.out_.CopyTo(brace + 1);
+        writer.out_.CopyTo(behind);
       } else {
-        writer.out_.SkipTo(brace + 1);
+        writer.out_.SkipTo(behind);
         writer.KeepApart(next, false);
       }
       kept.pop_back();
@@ -336,9 +342,11 @@ void Writer::EmitBytes(std::size_t character) {
   const bool joined = origin.kind == Origin::kSplit && wrap_.open;
   if (!origin.IsTyped() && !joined) {
     const bool bare = bytesOf_.AreBareObject(character);
+    const std::size_t open = bytesOf_.OpenGroups(character);
     if (bare) out_.Append("{");
     out_.CopyTo(origin.end());
-    if (bare) out_.Append("}");
+    if (open > 0 && IsTyped(character + 1)) out_.Append(std::string(open, '}'));
+    if (bare && open == 0) out_.Append("}");
     return;
   }
   KeepApart(character, true);
@@ -376,6 +384,8 @@ void Writer::OpenWrap(std::size_t character, const Attributes& inForce) {
 void Writer::CloseWrap() {
   if (!wrap_.open) return;
   wrap_.open = false;
+  // In an object that the file breaks off in, a brace would be lost.
+  if (!IsTyped(wrap_.end) && bytesOf_.OpenGroups(wrap_.end - 1) > 0) return;
   AppendBehind(wrap_.end, "}");
 }
 

@@ -42,7 +42,7 @@ inline constexpr std::uint32_t kLongestOrigin = (1U << 30U) - 1;
 struct MarkGroup {
   Offset open = 0;     // of its opening brace
   Offset content = 0;  // behind its words
-  Offset close = 0;    // of its closing brace
+  Offset close = 0;    // of its closing brace, or the end of the file
   AttributeChange words;
   Attributes outside;  // in force in front of its opening brace
 
