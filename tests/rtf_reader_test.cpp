@@ -82,6 +82,41 @@ TEST(RtfReader, DecodesByTheFontsCodePage) {
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\ansi\\ansicpg0 \\'e9\xE9}")), "éé");
 }
 
+// Files as the programs of the world begin and write them.
+TEST(RtfReader, ReadsWhatProducersWrite) {
+  const std::vector<Case> cases = {
+      {"{\\rtf1\\ansi\\ansicpg932{\\fonttbl{\\f0\\fcharset0 T;}{\\f1\\fcharset128 "
+       "M;}{\\f2\\fcharset134 S;}"
+       "{\\f3\\fcharset136 L;}{\\f4\\fcharset129 B;}}\\loch\\f0 "
+       "a\\hich\\af0\\dbch\\f1\\'93\\'fa\\'96\\'7b"
+       "{\\f2\\'d6\\'d0}{\\f3\\'a4\\'a4}{\\f4\\'b0\\'a1}}",
+       "a日本中中가"},
+      {"{\\rtf1\\ansi\\ansicpg1252\\cocoartf2639\n{\\fonttbl\\f0\\fswiss\\fcharset0 H;}\n\\f0 "
+       "one\\\n"
+       "two \\'96 \\uc0\\u55357 \\u56832 \\'97x}",
+       "one\ntwo – 😀—x"},
+      {"{\\rtf1\\mac\\deff4{\\fonttbl{\\f4\\fnil T;}} \\'d2Hi\\'d3 \\'8e}", " “Hi” é"},
+      {"{\\rtf1\\pc \\'82\\'e1}", "éß"},
+      {"{\\rtf1\\pca \\'82\\'e1}", "éß"},
+      {"{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset161 T;}{\\f1\\fcharset162 U;}{\\f2 V CE;}}"
+       "\\f0\\'e1\\f1\\'fe\\f2\\'9a}",
+       "αşš"},
+      {"{\\rtf1\\fbidis\\ansi\\ansicpg1255{\\fonttbl{\\f0\\fcharset177 D;}{\\f1\\fcharset178 "
+       "A;}}\\rtlpar"
+       "\\rtlch\\f0\\'f9\\'ec\\'e5\\'ed\\f1\\'e3}",
+       "שלוםم"},
+      {"{\\rtf1\\ansi\\fromhtml1 {\\*\\htmltag64 <p>}\\htmlrtf {\\htmlrtf0 "
+       "Dear\\htmlrtf\\par}\\htmlrtf0 "
+       "{\\*\\htmltag84 &nbsp;}\\htmlrtf \\'a0\\htmlrtf0 x}",
+       "Dear\n\u00A0x"},
+  };
+  for (const Case& c : cases) {
+    const std::optional<Document> document = rtf::Read(c.body);
+    ASSERT_TRUE(document) << c.body;
+    EXPECT_EQ(Dump(*document), c.expected) << c.body;
+  }
+}
+
 TEST(RtfReader, ReadsUnicodeWithItsFallback) {
   ExpectTexts({
       {"\\u8217?x", "’x"},
