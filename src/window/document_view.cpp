@@ -80,15 +80,69 @@ QTextCursor DocumentView::CursorAt(Range range) const {
   return cursor;
 }
 
-void DocumentView::Reveal(Range range) {
+QRect DocumentView::PlaceOf(Range range) const {
   const QRect first = cursorRect(CursorAt({range.begin, range.begin}));
   const QRect last = cursorRect(CursorAt({range.end, range.end}));
-  const int height = viewport()->height();
-  const int around = std::min(3 * first.height(), height / 4);
+  const QRect both = first.united(last);
+  if (last.top() <= first.top()) return both;
+  // Over several lines: all their width, and no more of them than a reader needs to begin.
+  const int height = std::min(both.height(), viewport()->height() / 2);
+  return {0, both.top(), viewport()->width(), height};
+}
+
+std::vector<DocumentView::Band> DocumentView::FreeBands(const QRect& place) const {
+  std::vector<Band> bands{{0, viewport()->height()}};
+  for (const QRect& cover : Covers()) {
+    if (cover.left() > place.right() || cover.right() < place.left()) continue;
+    std::vector<Band> left;
+    for (const Band& band : bands) {
+      left.push_back({band.top, std::min(band.bottom, cover.top())});
+      left.push_back({std::max(band.top, cover.bottom() + 1), band.bottom});
+    }
+    bands = std::move(left);
+  }
+  bands.erase(std::remove_if(bands.begin(), bands.end(),
+                             [&](const Band& band) { return band.Height() < place.height(); }),
+              bands.end());
+  std::sort(bands.begin(), bands.end(),
+            [](const Band& a, const Band& b) { return a.Height() > b.Height(); });
+  return bands;
+}
+
+std::vector<QRect> DocumentView::Covers() const {
+  std::vector<QRect> covers;
+  const QObjectList& stack = parent()->children();
+  for (qsizetype i = stack.indexOf(const_cast<DocumentView*>(this)) + 1; i < stack.size(); ++i) {
+    const auto* const widget = qobject_cast<QWidget*>(stack[i]);
+    if (widget == nullptr || widget->isWindow() || !widget->isVisible()) continue;
+    const QRect cover =
+        widget->rect().translated(viewport()->mapFromGlobal(widget->mapToGlobal(QPoint(0, 0))));
+    if (cover.intersects(viewport()->rect())) covers.push_back(cover);
+  }
+  return covers;
+}
+
+void DocumentView::Reveal(Range range) {
+  const QRect place = PlaceOf(range);
+  const std::vector<Band> bands = FreeBands(place);
   QScrollBar& bar = *verticalScrollBar();
-  const bool above = first.top() < around && bar.value() > 0;
-  const bool below = std::min(last.bottom(), first.top() + height / 2) > height - around;
-  if (above || below) bar.setValue(bar.value() + first.top() - height / 3);
+  const int around = 3 * cursorRect(CursorAt({range.begin, range.begin})).height();
+  const auto holds = [&](const Band& band) {
+    const int margin = std::min(around, (band.Height() - place.height()) / 3);
+    const bool atTheStart = bar.value() == 0 && band.top == 0;
+    return place.top() >= band.top + (atTheStart ? 0 : margin) &&
+           place.bottom() < band.bottom - margin;
+  };
+  if (std::any_of(bands.begin(), bands.end(), holds)) return;
+  for (const Band& band : bands) {
+    const int room = band.Height() - place.height();
+    const int value = bar.value() + place.top() - band.top - room / 3;
+    if (value < 0 && bands.size() > 1 && band.top > 0) continue;
+    // The end of the text may have to leave the bottom, to come out from under a panel.
+    if (bands.size() > 1) bar.setMaximum(std::max(bar.maximum(), value));
+    bar.setValue(value);
+    return;
+  }
 }
 
 // --- Painting --------------------------------------------------------------------------------

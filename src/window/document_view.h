@@ -6,6 +6,7 @@
 #include <QBasicTimer>
 #include <QTextEdit>
 #include <memory>
+#include <vector>
 
 #include "window/actions.h"
 #include "window/position_map.h"
@@ -23,7 +24,8 @@ class DocumentView final : public QTextEdit {
   PositionMap& Positions() { return positions_; }
   QTextCursor CursorAt(Range range) const;
 
-  // Scrolls so that a range is seen with some lines around it; nothing where it is seen so.
+  // Scrolls so that a range is seen with some lines around it, clear of the panels that lie over
+  // the text; nothing where it is seen so.
   void Reveal(Range range);
   // Whether the selection that is to be shown is the one that the user makes here.
   bool IsReporting() const { return reporting_; }
@@ -47,6 +49,20 @@ class DocumentView final : public QTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
+  // A stretch of the viewport's height; the bottom does not belong to it.
+  struct Band {
+    int top = 0;
+    int bottom = 0;
+    int Height() const { return bottom - top; }
+  };
+
+  // Where a range is drawn, in the viewport's coordinates.
+  QRect PlaceOf(Range range) const;
+  // What lies over the text, in the viewport's coordinates.
+  std::vector<QRect> Covers() const;
+  // The bands with room for a place that nothing covers over its width, the highest first.
+  std::vector<Band> FreeBands(const QRect& place) const;
+
   // All of these run one action of the user; the text takes the focus.
   void ReportSelection();
   void Type(const QString& text);

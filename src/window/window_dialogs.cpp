@@ -7,6 +7,9 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
+#include <QTextEdit>
+#include <algorithm>
 #include <utility>
 
 #include "text/unicode.h"
@@ -23,7 +26,28 @@ std::u32string PathFromQt(const QString& path) {
   return DecodePath(QFile::encodeName(path).toStdString());
 }
 
-// A question that only its buttons answer.
+// The text of a window and the term selected in it, on the screen.
+struct Asked {
+  QRect text;
+  QRect term;
+};
+
+std::optional<Asked> AskedIn(const QWidget& window) {
+  const auto* const view = window.findChild<QTextEdit*>(QStringLiteral("RichTextBox1"));
+  if (view == nullptr || !view->isVisible()) return std::nullopt;
+  const auto onScreen = [](const QWidget& widget, const QRect& rect) {
+    return rect.translated(widget.mapToGlobal(QPoint(0, 0)));
+  };
+  QTextCursor end = view->textCursor();
+  QTextCursor begin = end;
+  begin.setPosition(end.selectionStart());
+  end.setPosition(end.selectionEnd());
+  return Asked{onScreen(*view, view->rect()),
+               onScreen(*view->viewport(), view->cursorRect(begin).united(view->cursorRect(end)))};
+}
+
+// A question about the selected term that only its buttons answer. It leaves the text free where
+// the screen has room beside it, and at least the term and the lines around it.
 class Question : public QMessageBox {
  public:
   explicit Question(QWidget* parent) : QMessageBox(parent) {
@@ -32,6 +56,17 @@ class Question : public QMessageBox {
   void reject() override {}
 
  protected:
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    const std::optional<Asked> asked = AskedIn(*parentWidget());
+    if (!asked) return;
+    // The frame comes with the window manager, later, and some put it around the place given.
+    const QWidget& window = *parentWidget()->window();
+    const QPoint frame = window.geometry().topLeft() - window.frameGeometry().topLeft();
+    const QSize framed = size() + QSize(2 * frame.x(), frame.x() + frame.y());
+    const QRect screen = window.screen()->availableGeometry();
+    move(PlaceOfQuestion(framed, asked->text, asked->term, screen) + frame);
+  }
   void closeEvent(QCloseEvent* event) override { event->ignore(); }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
@@ -142,6 +177,20 @@ int WindowDialogs::MsgBox(const std::u32string& prompt, int buttons, const std::
       return kOk;
     }
   }
+}
+
+QPoint PlaceOfQuestion(QSize size, const QRect& text, const QRect& term, const QRect& screen) {
+  // The same place for every term where that can be: the mouse may rest on a button.
+  const int middle = text.center().x() - size.width() / 2;
+  const int left = std::max(std::min(middle, screen.right() + 1 - size.width()), screen.left());
+  const int lines = 3 * term.height();
+  const int tops[] = {text.bottom() + 1,         text.top() - size.height(),
+                      term.bottom() + 1 + lines, term.top() - lines - size.height(),
+                      term.bottom() + 1,         term.top() - size.height()};
+  for (const int top : tops) {
+    if (top >= screen.top() && top + size.height() <= screen.bottom() + 1) return {left, top};
+  }
+  return {left, screen.bottom() + 1 - size.height()};
 }
 
 QStringList ToolkitFilters(const std::u32string& filter) {

@@ -32,6 +32,10 @@ class WindowDialogs final : public Dialogs {
   const Form1* form_ = nullptr;
 };
 
+// Where a question about a term stands, frame included, all in pixels of the screen: below or above
+// the text, or else below or above the term, with some lines between them where there is room.
+QPoint PlaceOfQuestion(QSize size, const QRect& text, const QRect& term, const QRect& screen);
+
 // The filters of a file dialog as the toolkit wants them: "label (patterns)", where "*.*" stands
 // for every file.
 QStringList ToolkitFilters(const std::u32string& filter);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -85,6 +86,8 @@ class ScriptedDialogs final : public Dialogs {
 
   std::deque<Answer> answers;
   std::vector<Shown> shown;
+  // Where it is set, it answers the message boxes.
+  std::function<int(const std::u32string& prompt, int buttons, const std::u32string& title)> ask;
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                          const std::u32string& filter) override {
@@ -98,7 +101,7 @@ class ScriptedDialogs final : public Dialogs {
   }
   int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override {
     shown.push_back({.dialog = "MsgBox", .title = title, .prompt = prompt, .buttons = buttons});
-    return std::get<int>(Next());
+    return ask ? ask(prompt, buttons, title) : std::get<int>(Next());
   }
 
  private:

@@ -68,5 +68,30 @@ TEST_F(MessageBoxTest, AYesNoQuestionHasNoOtherWayOut) {
             7);
 }
 
+TEST(Question, StandsBesideTheTextOrElseBesideTheTerm) {
+  const QRect screen(0, 0, 1000, 700);
+  const struct {
+    const char* why;
+    QRect text;
+    QRect term;
+    QPoint place;
+  } kRows[] = {
+      {"below the text", {10, 50, 901, 300}, {400, 100, 60, 20}, {360, 350}},
+      {"wherever the term is", {10, 50, 901, 300}, {12, 300, 60, 20}, {360, 350}},
+      {"not past the left edge", {-500, 50, 901, 300}, {12, 100, 60, 20}, {0, 350}},
+      {"not past the right edge", {500, 50, 901, 300}, {880, 100, 60, 20}, {800, 350}},
+      {"above a text that reaches down", {10, 200, 901, 450}, {400, 300, 60, 20}, {360, 100}},
+      {"below the term in a text as high as the screen",
+       {10, 30, 901, 650},
+       {400, 100, 60, 20},
+       {360, 180}},
+      {"above it near the bottom", {10, 30, 901, 650}, {400, 600, 60, 20}, {360, 440}},
+      {"close to it where it is high", {10, 30, 901, 650}, {400, 170, 60, 400}, {360, 570}},
+  };
+  for (const auto& row : kRows) {
+    EXPECT_EQ(PlaceOfQuestion({200, 100}, row.text, row.term, screen), row.place) << row.why;
+  }
+}
+
 }  // namespace
 }  // namespace quill::test

@@ -1,0 +1,148 @@
+// The searches for operators on the real window: what is marked is shown, and a question leaves the
+// term that it asks about in sight.
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "shown_window.h"
+#include "user.h"
+#include "window/window_dialogs.h"
+
+namespace quill::test {
+namespace {
+
+using Button = QMessageBox::StandardButton;
+
+constexpr const char* kDictionary =
+    "left\\    \\A< d >\r\nno\\    \\B< d >\r\nnot\\    \\A< d >\r\nzzz\\    \\B< d >\r\n";
+
+class ParsingTest : public WindowTest {
+ protected:
+  ParsingTest() {
+    boxes.Attach(window, form);
+    dialogs.ask = [this](const auto& prompt, int buttons, const auto& title) {
+      QTimer::singleShot(0, &window, [this] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        box->button(answer(*box))->click();
+      });
+      return boxes.MsgBox(prompt, buttons, title);
+    };
+  }
+
+  // "left", then so many lines that say "not yet", then "left" again.
+  void OpenStory(int lines) {
+    std::string body = "\\qc left\\par ";
+    for (int i = 0; i < lines; ++i) body += "not yet\\par ";
+    disk.files["x.spd"] = kDictionary;
+    OpenText(body + "left\\par end");
+    Press("Add_specific_parsing_list");
+  }
+
+  QRect SelectedPlace() const {
+    QTextCursor begin = View().textCursor();
+    begin.setPosition(View().textCursor().selectionStart());
+    return View().cursorRect(begin).united(View().cursorRect());
+  }
+
+  // The selected term is seen whole, in its own colour, and neither a panel nor the box is over it.
+  void ExpectTermInSight(const QMessageBox& box) {
+    const QRect place = SelectedPlace();
+    QWidget& viewport = *View().viewport();
+    EXPECT_TRUE(viewport.rect().contains(place));
+    for (const QPoint corner : {place.topLeft(), place.bottomRight()}) {
+      EXPECT_EQ(window.childAt(viewport.mapTo(&window, corner)), &viewport);
+    }
+    const QPoint onScreen = viewport.mapToGlobal(place.topLeft());
+    EXPECT_FALSE(box.frameGeometry().intersects(QRect(onScreen, place.size())));
+    EXPECT_TRUE(Paints(place, qRgb(192, 0, 192)));
+  }
+
+  bool Paints(const QRect& place, QRgb colour) {
+    const QImage image = View().viewport()->grab(place).toImage();
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if ((image.pixel(x, y) & 0xFFFFFFU) == (colour & 0xFFFFFFU)) return true;
+      }
+    }
+    return false;
+  }
+
+  Attributes At(Position position) const { return form.RichTextBox1.Doc().At(position); }
+
+  WindowDialogs boxes;
+  std::function<Button(QMessageBox&)> answer;  // looks at a box and chooses a button
+};
+
+TEST_F(ParsingTest, TheMarksOfTheWholeListAreShown) {
+  OpenStory(120);
+  Press("Parse_1");
+  EXPECT_EQ(form.Parse_listbox.ListIndex, 3);
+  EXPECT_EQ(At(0).colour, RGB(128, 128, 255));
+  EXPECT_EQ(At(5).colour, RGB(128, 128, 255)) << "of \"not\", which comes after \"no\"";
+  ExpectShown(window, form);
+  ClickRow("Parse_listbox", 1);
+  Press("Parse_2");
+  EXPECT_EQ(At(6).colour, RGB(255, 0, 0));
+  EXPECT_EQ(At(7).colour, RGB(128, 128, 255));
+  ExpectShown(window, form);
+}
+
+TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
+  OpenStory(120);
+  std::vector<Button> buttons{QMessageBox::Yes, QMessageBox::No};
+  std::size_t asked = 0;
+  answer = [&](QMessageBox& box) {
+    EXPECT_EQ(form.RichTextBox1.SelText(), U"left");
+    ExpectTermInSight(box);
+    ExpectShown(window, form);
+    return buttons.at(asked++);
+  };
+  ClickRow("Parse_listbox", 0);
+  Press("Parse_3");
+  EXPECT_EQ(asked, 2U);
+  EXPECT_EQ(At(0), (Attributes{RGB(0, 0, 255), true, false, 0}));
+  EXPECT_EQ(At(5 + 8 * 120), Attributes());
+  ExpectShown(window, form);
+}
+
+TEST_F(ParsingTest, AHitThatIsSelectedAlreadyIsScrolledBack) {
+  OpenStory(120);
+  DragOver(0, 4);
+  ClickRow("Parse_listbox", 0);
+  View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum() / 2);
+  int asked = 0;
+  answer = [&](QMessageBox& box) {
+    ExpectTermInSight(box);
+    ++asked;
+    return QMessageBox::No;
+  };
+  Press("Parse_3");
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(ParsingTest, PanelsOverTheTextDoNotHideAHit) {
+  for (const int lines : {6, 12, 60}) {
+    SCOPED_TRACE(lines);
+    Press("Clear_list");
+    OpenStory(lines);
+    form.IDFrame.Visible = true;
+    int asked = 0;
+    answer = [&](QMessageBox& box) {
+      ExpectTermInSight(box);
+      EXPECT_TRUE(Widget("IDFrame").isVisible());
+      ++asked;
+      return QMessageBox::Yes;
+    };
+    ClickRow("Parse_listbox", 0);
+    Press("Parse_3");
+    EXPECT_EQ(asked, 2);
+  }
+}
+
+}  // namespace
+}  // namespace quill::test
