@@ -104,6 +104,7 @@ std::vector<std::string> BrokenFiles() {
       fonts + "{x\\pict 00}{\\i\\pict}y{\\object}}",  // pictures without a group of their own
       fonts + "\\f1\\'83\\'\xFF\xFF y}",              // one of them inside a sequence
       fonts + "\\'4xy\\'z\\'}",                       // numbers that lack digits
+      fonts + "\\bin3\\cg  x}",                       // data that looks like a word
       fonts + "\\upr xyz}",                           // no group to choose from
       fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",       // a brace ends what stands in for a character
       fonts + "{\\uc3\\u8217 x}y\\uc2\\u8217 {\\pict 00}z\\u8217?}",

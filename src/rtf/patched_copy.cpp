@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "rtf/ascii.h"
+#include "rtf/lexer.h"
 
 namespace quill::rtf {
 namespace {
@@ -42,6 +43,14 @@ Ending EndingOf(std::string_view bytes) {
   if (at == lettersEnd) return Ending::kOther;
   if (BackslashesAtEnd(tail.substr(0, at)) % 2 == 0) return Ending::kOther;
   return number ? Ending::kNumber : Ending::kLetters;
+}
+
+// Whether the bytes end in the data of a \bin, which may look like a word.
+bool EndsInData(std::string_view bytes) {
+  Lexer lexer(bytes);
+  Token last;
+  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) last = token;
+  return last.kind == Token::kWord && last.word == "bin" && last.number > 0;
 }
 
 }  // namespace
@@ -98,7 +107,9 @@ void PatchedCopy::Append(std::string_view own) {
 // together: a control word is ended by a blank, a \'hh by a line end.
 std::string_view PatchedCopy::Separator(char next) const {
   if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return "";
-  switch (EndingOf(std::string_view(out_).substr(textEnd_))) {
+  const Ending ending = EndingOf(std::string_view(out_).substr(textEnd_));
+  if (ending == Ending::kOther || EndsInData(std::string_view(out_).substr(mark_))) return "";
+  switch (ending) {
     case Ending::kLetters:
       return " ";
     case Ending::kNumber:

@@ -50,8 +50,8 @@ class PatchedCopy {
   std::vector<Patch> patches_;
   std::size_t nextPatch_ = 0;
   Offset at_ = 0;
-  bool seam_ = false;  // what was appended last is not what stands in front of `at_`
-  std::size_t mark_ = 0;
+  bool seam_ = false;        // what was appended last is not what stands in front of `at_`
+  std::size_t mark_ = 0;     // where a token begins
   std::size_t textEnd_ = 0;  // no control word of the copy begins in front of this
   std::string out_;
 };

@@ -418,7 +418,7 @@ void Writer::CopyInFront(std::size_t character, Offset to) {
 
 void Writer::EndCharacter(std::size_t character) {
   out_.Mark();
-  if (bytesOf_.EndInText(character)) out_.EndText();
+  if (IsTyped(character) || bytesOf_.EndInText(character)) out_.EndText();
 }
 
 }  // namespace
