@@ -83,7 +83,9 @@ void CheckEdits(Document document, const std::vector<Step>& steps) {
                                      .substr(step.look % 13, step.look % 4);
     const Attributes attributes =
         range.Length() > 0 ? document.At(range.begin) : Attributes{RGB(255, 0, 0), true, false, 0};
-    if (!document.CanDelete(range)) {
+    // A text of which nothing is left has no sure place for more in a broken file.
+    const bool whole = range.Length() == document.Length();
+    if (whole || !document.CanDelete(range)) {
       Mark(document, range, step.look);
       continue;
     }
