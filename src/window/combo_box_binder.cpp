@@ -1,5 +1,6 @@
 #include "window/combo_box_binder.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -36,6 +37,7 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QComboBox& widget, Actions& acti
   QLineEdit& line = *widget.lineEdit();
   line.setMaxLength(std::numeric_limits<int>::max());
   line.setAccessibleName(widget.accessibleName());
+  widget.view()->setAccessibleName(widget.accessibleName());
   // The toolkit picks the row that reads like the line when Enter is pressed or the line is left.
   QObject::disconnect(&line, &QLineEdit::editingFinished, nullptr, nullptr);
   QObject::connect(&line, &QLineEdit::textEdited, &widget,
