@@ -116,15 +116,27 @@ QFont ControlFont(double points, bool bold) {
   return font;
 }
 
+bool Fits(const QFont& font, const QString& text, QSize room) {
+  const QRect needed =
+      QFontMetrics(font).boundingRect(QRect({0, 0}, room), Qt::AlignLeft | Qt::TextWordWrap, text);
+  return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
 QFont FittingFont(QFont font, const QString& text, QSize room) {
   for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
     font.setPixelSize(pixels);
-    const QRect needed = QFontMetrics(font).boundingRect(QRect({0, 0}, room),
-                                                         Qt::AlignLeft | Qt::TextWordWrap, text);
-    if (needed.width() <= room.width() && needed.height() <= room.height()) return font;
+    if (Fits(font, text, room)) return font;
   }
   font.setPixelSize(kSmallestPixels);
   return font;
+}
+
+Caption LayCaption(const QFont& font, const QString& text, const QRect& face) {
+  const QRect wide = face.adjusted(6, 1, -6, -1);
+  if (Fits(font, text, wide.size())) return {font, wide};
+  // Rather a narrow margin than small type.
+  const QRect narrow = face.adjusted(2, 1, -2, -1);
+  return {FittingFont(font, text, narrow.size()), narrow};
 }
 
 void SetColours(QWidget& widget, const QColor& background, const QColor& text) {

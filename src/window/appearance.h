@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QRect>
 #include <QString>
 
 #include "workbench/catalogue.h"
@@ -39,6 +40,16 @@ inline QFont FontOf(const CatalogueRow& row) {
 
 // The font, made smaller as far as needed (and as can be read) for the wrapped text to fit.
 QFont FittingFont(QFont font, const QString& text, QSize room);
+
+// Whether the text, wrapped between words, shows whole in that room.
+bool Fits(const QFont& font, const QString& text, QSize room);
+
+// How a button's caption is laid on its face.
+struct Caption {
+  QFont font;
+  QRect room;
+};
+Caption LayCaption(const QFont& font, const QString& text, const QRect& face);
 
 // Writes a colour of one role for the enabled states, and a paler one for the disabled state.
 void SetColours(QWidget& widget, const QColor& background, const QColor& text);

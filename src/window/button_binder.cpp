@@ -34,18 +34,10 @@ class CaptionButton : public QPushButton {
     const QString caption = text().simplified();
     QFont captionFont = font();
     captionFont.setBold(coloured_);
-    const int stored = captionFont.pixelSize();
-    QRect room = rect().adjusted(6, 1, -6, -1);
-    captionFont = FittingFont(captionFont, caption, room.size());
-    if (captionFont.pixelSize() < stored) {
-      // Rather a narrow margin than small type.
-      room = rect().adjusted(2, 1, -2, -1);
-      captionFont.setPixelSize(stored);
-      captionFont = FittingFont(captionFont, caption, room.size());
-    }
-    painter.setFont(captionFont);
+    const Caption laid = LayCaption(captionFont, caption, rect());
+    painter.setFont(laid.font);
     painter.setPen(CaptionColour());
-    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, caption);
+    painter.drawText(laid.room, Qt::AlignCenter | Qt::TextWordWrap, caption);
   }
 
  private:
