@@ -175,7 +175,10 @@ Control* MainWindow::ControlOf(const QWidget* widget) const {
 
 void MainWindow::UserGoesInto(const QWidget& widget) {
   Control* const control = ControlOf(&widget);
-  if (control == nullptr || WidgetOf(*control).focusPolicy() == Qt::NoFocus) return;
+  if (control == nullptr || !control->IsInReach() ||
+      WidgetOf(*control).focusPolicy() == Qt::NoFocus) {
+    return;
+  }
   lastFocus_ = control;
   actions_.Do([&](Program& program) { program.GoInto(*control); });
 }

@@ -30,5 +30,26 @@ TEST_F(WindowTest, NamesWhateverTakesTheFocusToAssistiveTechnology) {
   EXPECT_GT(seen, 40);
 }
 
+TEST_F(WindowTest, GivesItsTextToAssistiveTechnology) {
+  OpenText("He {\\b came} yesterday.\\par");
+  DragOver(3, 7);
+  QAccessibleInterface* const node = QAccessible::queryAccessibleInterface(&View());
+  ASSERT_NE(node, nullptr);
+  EXPECT_EQ(node->role(), QAccessible::EditableText);
+  QAccessibleTextInterface* const text = node->textInterface();
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->text(0, 17), QStringLiteral("He came yesterday"));
+  int start = 0;
+  int end = 0;
+  text->selection(0, &start, &end);
+  EXPECT_EQ(start, 3);
+  EXPECT_EQ(end, 7);
+  EXPECT_EQ(text->cursorPosition(), 7);
+  EXPECT_TRUE(text->attributes(4, &start, &end).contains(QStringLiteral("font-weight:bold")));
+  EXPECT_EQ(start, 3);
+  EXPECT_EQ(end, 7);
+  EXPECT_FALSE(text->attributes(9, &start, &end).contains(QStringLiteral("font-weight:bold")));
+}
+
 }  // namespace
 }  // namespace quill::test

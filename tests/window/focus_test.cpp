@@ -2,6 +2,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QtTest>
+#include <functional>
+#include <vector>
 
 #include "shown_window.h"
 #include "user.h"
@@ -45,6 +47,44 @@ TEST_F(FocusTest, FocusThatMovesByItselfRaisesNothing) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   Choose("mnuDialogue_off");
   EXPECT_EQ(form.Text2.Text.Get(), U"kept");
+}
+
+TEST_F(FocusTest, NothingButAUsersMoveWipesABox) {
+  struct Happening {
+    const char* what;
+    std::function<void(const char* box)> happens;
+  };
+  const std::vector<Happening> happenings = {
+      {"a second click", [&](const char* box) { Press(box); }},
+      {"the right button",
+       [&](const char* box) { QTest::mousePress(&Widget(box), Qt::RightButton); }},
+      {"a click on a disabled button", [&](const char*) { Press("AMarkSet"); }},
+      {"hidden and shown",
+       [&](const char*) {
+         window.hide();
+         window.show();
+         window.activateWindow();
+         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+       }},
+      {"a menu opened and closed",
+       [&](const char*) {
+         Key(Qt::Key_F, Qt::AltModifier);
+         QWidget* const menu = QApplication::activePopupWidget();
+         ASSERT_NE(menu, nullptr);
+         QTest::keyClick(menu, Qt::Key_Escape);
+       }},
+  };
+  for (const char* const name : {"add_to_dictionary", "Text2"}) {
+    auto& box = dynamic_cast<TextBox&>(*form.Find(name));
+    for (const auto& [what, happens] : happenings) {
+      window.activateWindow();
+      Press(name);
+      box.Text = U"kept";
+      Choose("mnuDialogue_off");
+      happens(name);
+      EXPECT_EQ(box.Text.Get(), U"kept") << what << " in " << name;
+    }
+  }
 }
 
 TEST_F(FocusTest, AHiddenControlLeavesTheFocusToNobody) {
