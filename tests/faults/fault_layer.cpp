@@ -5,8 +5,8 @@
 //
 //   FAULT_FOLDER  the folder, as an absolute path; relative paths count too
 //   FAULT_AT      the number of the call to strike; 0 strikes none
-//   FAULT_KIND    "once": that call fails; "onwards": so do all later ones; "half": that call, if it
-//                 is a write, writes half of its bytes; "kill": the program dies in front of it
+//   FAULT_KIND    "once": that call fails; "onwards": so do all later ones; "half": that call,
+//                 where it writes, writes half of its bytes; "kill": the program dies before it
 //   FAULT_ERRNO   why calls fail
 //   FAULT_LOG     a file to which the names of all calls are written, a line each
 #include <dlfcn.h>
