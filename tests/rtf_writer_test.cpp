@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "rtf/reader.h"
+#include "rtf/rewriting.h"
 #include "rtf/writer.h"
 #include "support/rich_text.h"
 #include "text/unicode.h"
@@ -269,6 +270,55 @@ TEST(RtfWriter, KeepsRandomFilesThroughRandomMarksAndEdits) {
       if (testing::Test::HasFatalFailure()) return;
       document = std::move(again);
     }
+  }
+}
+
+// Nobody's programs write such files: what an edit leaves would be read as something else.
+TEST(RtfWriter, WritesADamagedTextAnewRatherThanChangeIt) {
+  struct Case {
+    std::string body;
+    Range gone;
+    std::string expected;
+  };
+  const std::vector<Case> cases = {
+      // What was harmless behind a character would hide its group at the head of it.
+      {"a{x\\*\\unknown y}z", {1, 2}, "ayz"},
+      {"a{\\*x\\unknown y}z", {1, 2}, "ayz"},
+      // A brace that stood in for a character no longer does.
+      {"a{\\u-1{}\\b b\\*\\unknown y}{\\pict 00}", {1, 3}, "a<b>y</>\uFFFC"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.body);
+    Document document = *rtf::Read("{\\rtf1" + c.body);
+    document.Type(c.gone, U"", {});
+    const Document again = *rtf::Read(rtf::Write(document));
+    ExpectSameText(document, again);
+    EXPECT_EQ(Dump(again), c.expected);
+  }
+}
+
+TEST(RtfWriter, RewritesEveryLookThatItKnows) {
+  const std::string look =
+      "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 Serif;}{\\f3\\fcharset2 Symbol;}}"
+      "{\\colortbl;\\red9\\green0\\blue0;}"
+      "\\pard\\qc\\li720\\ri20\\fi-20\\sb5\\sa7\\rtlpar\\f0 a{\\f3\\'e1\\fs60\\i b}{\\rtlch\\ab "
+      "c}\\par"
+      "\\pard\\qj{\\highlight1 d\\highlight7 e}{\\super f}{\\sub\\strike\\v g}\\page"
+      "{\\dn4\\cf1\\ul h}{\\*\\shppict{\\pict 00}}{\\nonshppict{\\pict 11}}{\\pict 22}\\qr\\line "
+      "\\trowd\\intbl i\\cell\\row\\uc3\\u8217???\\{}";
+  const Document document = *rtf::Read(look);
+  const Document again = *rtf::Read(rtf::Rewritten(document));
+  ExpectSameText(document, again);
+  EXPECT_EQ(document.Fonts(), again.Fonts());
+  EXPECT_NE(again.GetSource().bytes.find("{\\pict 22}"), std::string::npos);
+  EXPECT_FALSE(again.CanDelete({again.Length() - 4, again.Length() - 3}));
+
+  std::mt19937 random(12);
+  for (int round = 0; round < 500; ++round) {
+    Document some = *rtf::Read(RandomFile(random));
+    SCOPED_TRACE(some.GetSource().bytes);
+    for (Position at = 0; at < some.Length(); at += 3) Mark(some, {at, at + 1}, at);
+    ExpectSameText(some, *rtf::Read(rtf::Rewritten(some)));
   }
 }
 

@@ -12,20 +12,21 @@ unsigned Part(Colour colour, unsigned which) { return colour >> (8 * which) & 0x
 }  // namespace
 
 ColourNumbers::ColourNumbers(const ColourTable& table)
-    : table_(table),
-      firstNew_(std::max<std::size_t>(table.entries.size(), table.highestUsed + 1)) {}
+    : table_(table), firstNew_(std::max<std::size_t>(table.entries.size(), table.highestUsed + 1)) {
+  std::uint32_t number = 0;
+  for (const ColourTable::Entry& entry : table.entries) {
+    if (!entry.automatic) numbers_.try_emplace(entry.colour, number);
+    ++number;
+  }
+}
 
 std::uint32_t ColourNumbers::NumberOf(Colour colour) {
   const auto& entries = table_.entries;
   if (colour == kBlack && (entries.empty() || entries[0].automatic)) return 0;
-  const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
-    return !entry.automatic && entry.colour == colour;
-  });
-  if (found != entries.end()) return static_cast<std::uint32_t>(found - entries.begin());
-  const auto added = std::find(added_.begin(), added_.end(), colour);
-  const auto number = static_cast<std::uint32_t>(firstNew_ + (added - added_.begin()));
-  if (added == added_.end()) added_.push_back(colour);
-  return number;
+  const auto next = static_cast<std::uint32_t>(firstNew_ + added_.size());
+  const auto [entry, isNew] = numbers_.try_emplace(colour, next);
+  if (isNew) added_.push_back(colour);
+  return entry->second;
 }
 
 std::string ColourNumbers::TableInsertion() const {

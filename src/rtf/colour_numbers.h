@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "text/source.h"
@@ -32,6 +33,7 @@ class ColourNumbers {
 
   const ColourTable& table_;
   std::size_t firstNew_;
+  std::unordered_map<Colour, std::uint32_t> numbers_;
   std::vector<Colour> added_;
 };
 

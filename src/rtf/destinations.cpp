@@ -38,17 +38,22 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       return;
     default:
       // A destination directly in the document's own group would hide all the rest of it.
-      if (states_.Depth() > 1) SkipGroup();
+      if (states_.Depth() > 1) return SkipGroup();
+      Oddity();
       return;
   }
 }
 
 // The first table with colours in it is the file's; others are run over.
 void TextReader::TakeColourTable() {
-  if (tableFound_) return SkipGroup();
+  if (tableFound_) {
+    Oddity();
+    return SkipGroup();
+  }
   const bool whole = ReadColourTable(lexer_, tables_.colours);
   tableFound_ = whole && !tables_.colours.entries.empty();
   tableCameLate_ = tableFound_ && text_.Size() > 0;
+  if (tableCameLate_ || !tableFound_) Oddity();
   CloseSkipped();
 }
 
@@ -62,6 +67,7 @@ void TextReader::TakeObject(const Token& token) {
     marks_.GroupIsCharacter();
   } else {
     marks_.Other();
+    Oddity();
   }
   CloseGroup();
 }

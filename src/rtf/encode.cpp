@@ -1,5 +1,8 @@
 #include "rtf/encode.h"
 
+#include <cmath>
+#include <cstdlib>
+
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -37,6 +40,32 @@ void AppendCharacter(std::string& to, char32_t character, std::uint32_t fallback
     if (c == U'\\' || c == U'{' || c == U'}') to += '\\';
     to += static_cast<char>(c);
   }
+}
+
+Attributes InFile(Attributes attributes) {
+  const int halfPoints =
+      static_cast<int>(std::lround(static_cast<double>(attributes.offset) / kTwipsInHalfPoint));
+  const int least = attributes.offset > 0 ? 1 : attributes.offset < 0 ? -1 : 0;
+  attributes.offset = (halfPoints != 0 ? halfPoints : least) * kTwipsInHalfPoint;
+  return attributes;
+}
+
+std::string WordsBetween(const Attributes& from, const Attributes& to, bool rightToLeft,
+                         ColourNumbers& colours) {
+  std::string words;
+  if (from.colour != to.colour) words += "\\cf" + std::to_string(colours.NumberOf(to.colour));
+  if (from.bold != to.bold) {
+    words += to.bold ? "\\b" : "\\b0";
+    // Other programs take the weight of a right-to-left run from here.
+    if (rightToLeft) words += to.bold ? "\\ab" : "\\ab0";
+  }
+  if (from.underline != to.underline) words += to.underline ? "\\ul" : "\\ulnone";
+  if (from.offset != to.offset) {
+    words += to.offset < 0 ? "\\dn" : "\\up";
+    words += std::to_string(std::abs(to.offset) / kTwipsInHalfPoint);
+  }
+  if (!words.empty()) words += ' ';
+  return words;
 }
 
 }  // namespace quill::rtf

@@ -99,7 +99,11 @@ bool TextBuilder::AddUnicode(std::int32_t number, Offset begin, Offset end) {
     pairEnd_ = end;
     return true;
   }
-  if (c != 0) Put(IsLowHalf(c) || c > 0x10FFFF ? kReplacement : c, begin, end);
+  if (IsLowHalf(c) || c > 0x10FFFF) {
+    PutBroken(begin, end);
+  } else if (c != 0) {
+    Put(c, begin, end);
+  }
   return c != 0;
 }
 
@@ -129,15 +133,20 @@ void TextBuilder::Flush() {
 void TextBuilder::EndSequence() {
   if (sequence_.empty()) return;
   sequence_.clear();
-  Put(kReplacement, sequenceBegin_, sequenceEnd_);
+  PutBroken(sequenceBegin_, sequenceEnd_);
 }
 
 void TextBuilder::EndPair() {
   if (highHalf_ == 0) return;
   highHalf_ = 0;
-  Put(kReplacement, pairBegin_, pairEnd_);
+  PutBroken(pairBegin_, pairEnd_);
   // Words may have come since.
   formats_.back() = halfFormat_;
+}
+
+void TextBuilder::PutBroken(Offset begin, Offset end) {
+  isWhole_ = false;
+  Put(kReplacement, begin, end);
 }
 
 void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind kind) {

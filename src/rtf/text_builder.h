@@ -44,6 +44,8 @@ class TextBuilder {
   void Flush();
 
   std::size_t Size() const { return text_.size(); }
+  // Whether no character was broken off, or its halves parted.
+  bool IsWhole() const { return isWhole_ && splitPairs_.empty(); }
   std::u32string TakeText() { return std::move(text_); }
   std::vector<FormatId> TakeFormats() { return std::move(formats_); }
   std::vector<Origin> TakeOrigins() { return std::move(origins_); }
@@ -54,6 +56,7 @@ class TextBuilder {
   void PutAscii(std::string_view bytes, Offset begin);
   void EndSequence();
   void EndPair();
+  void PutBroken(Offset begin, Offset end);
 
   static constexpr Offset kNowhere = ~Offset{0};
 
@@ -67,6 +70,7 @@ class TextBuilder {
   Offset sequenceBegin_ = 0;
   Offset sequenceEnd_ = 0;
 
+  bool isWhole_ = true;
   Offset reachesFrom_ = 0;
   Offset reachesAt_ = kNowhere;
   char32_t highHalf_ = 0;     // of a pair, or 0

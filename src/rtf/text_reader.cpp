@@ -10,6 +10,8 @@
 namespace quill::rtf {
 namespace {
 
+constexpr Offset kHexLength = 4;  // of \'hh
+
 State FirstState() {
   State state;
   state.page = &CodePage::Of(1252);
@@ -38,12 +40,17 @@ Document TextReader::Read() {
     if (!Take(token)) break;
   }
   text_.Flush();
-  if (!ended_) marks_.End(static_cast<Offset>(bytes_.size()));
+  if (!ended_) {
+    Oddity();
+    marks_.End(static_cast<Offset>(bytes_.size()));
+  }
   if (!headerEnded_) tablePlace_ = bodyEnd;
   if (!tables_.colours.present) tables_.colours.end = tablePlace_;
   const FormatId endFormat = states_.Format();
-  Source source{std::move(bytes_), std::move(tables_.colours), marks_.Take(),
-                text_.TakeSplitPairs(), bodyEnd};
+  if (!text_.IsWhole()) Oddity();
+  Source source{std::move(bytes_), std::move(tables_.colours),
+                marks_.Take(),     text_.TakeSplitPairs(),
+                bodyEnd,           wellFormed_};
   return Document(std::move(source), tables_.fonts.TakeFaces(), std::move(formats_),
                   text_.TakeText(), text_.TakeFormats(), text_.TakeOrigins(), endFormat);
 }
@@ -53,9 +60,11 @@ bool TextReader::Take(const Token& token) {
   if (skipNext_ && token.kind != Token::kIgnored && token.kind != Token::kOpen) {
     // No group follows, and none may come to follow by a mark on a character that does.
     skipNext_ = false;
+    Oddity();
     text_.ReachBack(alternativesAt_, token.begin);
     if (token.kind != Token::kText && token.kind != Token::kHex) marks_.Other();
   }
+  if (starred_ && token.kind != Token::kWord && token.kind != Token::kIgnored) Oddity();
   switch (token.kind) {
     case Token::kIgnored:
       return true;
@@ -94,6 +103,7 @@ bool TextReader::TakeAsFallback(const Token& token) {
   if (token.kind == Token::kIgnored) return true;
   if (token.kind == Token::kOpen || token.kind == Token::kClose) {
     fallbackLeft_ = 0;
+    Oddity();
     // With a character the writer sees to it that what stands in for it ends.
     braceIsNeeded_ = !fallbackBelongs_;
     return false;
@@ -106,6 +116,7 @@ bool TextReader::TakeAsFallback(const Token& token) {
     lexer_.Seek(end);
   } else {
     --fallbackLeft_;
+    if (token.kind != Token::kHex) Oddity();
   }
   if (fallbackBelongs_) text_.ExtendUnicode(end);
   return true;
@@ -124,6 +135,7 @@ void TextReader::TakeText(const Token& token) {
 }
 
 void TextReader::TakeHex(const Token& token) {
+  if (token.end - token.begin < kHexLength) Oddity();
   if (token.number < 0) {
     // Among the bytes of a character it belongs to that.
     if (!text_.AwaitsByte()) marks_.Other();
@@ -169,6 +181,7 @@ void TextReader::TakeSymbol(const Token& token) {
 
 void TextReader::TakeWord(const Token& token) {
   const WordEntry& entry = LookUp(token.word);
+  if (starred_ && !starredHead_) Oddity();
   EndHeader(&entry, token);
   if (TakeCharacter(entry, token)) return;
   text_.WordComes();

@@ -50,6 +50,9 @@ class TextReader {
   void SetStandardPage(const CodePage& page);
   void AddCharacter(char32_t character, const Token& token, Origin::Kind kind = Origin::kPlain);
 
+  // The file holds something that no program writes.
+  void Oddity() { wellFormed_ = false; }
+
   std::string bytes_;
   Lexer lexer_;
   FormatTable formats_;
@@ -65,6 +68,7 @@ class TextReader {
   bool skipNext_ = false;      // the next group gives way to the one behind it
   Offset alternativesAt_ = 0;  // where the word stands that says so
   bool ended_ = false;         // the document's own group is closed
+  bool wellFormed_ = true;
   std::uint32_t fallbackLeft_ = 0;
   bool braceIsNeeded_ = false;  // the next brace ends what stands in for a \u that is no character
   bool fallbackBelongs_ = false;  // what is left over belongs to the last character

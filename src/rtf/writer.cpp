@@ -1,428 +1,46 @@
-// The writer copies the source. A stretch of characters whose attributes are not those of its
-// place is put into a group of its own, which sets the attributes and ends in front of whatever
-// else the file says there: nothing outside can come undone at its brace. Groups that an earlier
-// save made in this way are taken apart again where their characters changed, and stay only where
-// they still save words: so a file does not grow by marking and unmarking.
 #include "rtf/writer.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
-#include <vector>
 
-#include "rtf/character_bytes.h"
-#include "rtf/colour_numbers.h"
 #include "rtf/encode.h"
-#include "rtf/patched_copy.h"
-#include "text/unicode.h"
+#include "rtf/patching.h"
+#include "rtf/reader.h"
+#include "rtf/rewriting.h"
 
 namespace quill::rtf {
 namespace {
 
-// Attributes as a file can hold them: a raised position in whole half-points, never rounded away.
-Attributes InFile(Attributes attributes) {
-  const int halfPoints =
-      static_cast<int>(std::lround(static_cast<double>(attributes.offset) / kTwipsInHalfPoint));
-  const int least = attributes.offset > 0 ? 1 : attributes.offset < 0 ? -1 : 0;
-  attributes.offset = (halfPoints != 0 ? halfPoints : least) * kTwipsInHalfPoint;
-  return attributes;
+bool SameInFile(const Format& saved, const Format& format) {
+  CharacterLook look = saved.look;
+  look.fallback = format.look.fallback;  // says how characters are written, not how they look
+  return saved.now == InFile(format.now) && look == format.look &&
+         saved.paragraph == format.paragraph;
 }
 
-// A range of character indices.
-struct Span {
-  std::size_t begin = 0;
-  std::size_t end = 0;
-};
-
-class Writer {
- public:
-  explicit Writer(const Document& document);
-
-  std::string Write();
-
- private:
-  // A group with those directly and indirectly in it: a range of the source's list.
-  struct Tree {
-    std::size_t first = 0;
-    std::size_t end = 0;
-    Span inside;  // its characters
-  };
-
-  bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
-  bool IsLoose(std::size_t character) const {
-    return IsChanged(character) || origins_[character].IsTyped() ||
-           (IsTyped(character + 1) && IsLooseObject(character));
-  }
-  // Whether an object takes what is put behind it for its data.
-  bool IsLooseObject(std::size_t character) const {
-    return bytesOf_.AreBareObject(character) || bytesOf_.OpenGroups(character) > 0;
-  }
-  bool IsTyped(std::size_t character) const {
-    return character < origins_.size() && origins_[character].IsTyped();
-  }
-  const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
-  std::size_t FirstBehind(Offset offset, std::size_t from) const;
-  Span CharactersOf(const MarkGroup& group, std::size_t from) const;
-  void FindTouchedTrees();
-  void NumberColours();
-  std::vector<Patch> Patches() const;
-
-  template <class Visitor>
-  void Walk(const Tree& tree, Visitor&& visitor) const;
-  std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
-  void EmitTree(const Tree& tree);
-  void Emit(std::size_t character, const Attributes& inForce);
-  void EmitBytes(std::size_t character);
-  std::string Words(const Attributes& from, const Attributes& to, bool rightToLeft);
-  void OpenWrap(std::size_t character, const Attributes& inForce);
-  void CloseWrap();
-  void AppendBehind(std::size_t characters, std::string_view own);
-  void KeepApart(std::size_t characters, bool beforeOwn);
-  void CopyInFront(std::size_t character, Offset to);
-  void EndCharacter(std::size_t character);
-
-  const Document& document_;
-  const Source& source_;
-  const std::vector<FormatId>& formatIds_;
-  const std::vector<Origin>& origins_;
-  const CharacterBytes bytesOf_;
-  std::vector<Attributes> targets_;  // of each format, as the file is to have it
-  std::vector<char> changed_;        // whether that differs from what its place has
-  std::vector<Tree> touched_;        // groups with a changed character in them, in order
-  ColourNumbers colours_;
-  PatchedCopy out_;
-
-  // The group that is being written around a stretch of characters.
-  struct Wrap {
-    bool open = false;
-    Attributes inForce;
-    Attributes target;
-    bool rightToLeft = false;
-    std::size_t end = 0;  // behind its last character
-  };
-  Wrap wrap_;
-};
-
-Writer::Writer(const Document& document)
-    : document_(document),
-      source_(document.GetSource()),
-      formatIds_(document.FormatIds()),
-      origins_(document.Origins()),
-      bytesOf_(document),
-      colours_(source_.colours),
-      out_("", {}) {
-  const FormatTable& formats = document.Formats();
-  for (FormatId id = 0; id < formats.Size(); ++id) {
-    targets_.push_back(InFile(formats[id].now));
-    changed_.push_back(targets_.back() != formats[id].written ? 1 : 0);
-  }
-}
-
-std::string Writer::Write() {
-  const bool nothing =
-      document_.Cuts().empty() &&
-      std::none_of(origins_.begin(), origins_.end(), [](const Origin& o) { return o.IsTyped(); }) &&
-      std::none_of(formatIds_.begin(), formatIds_.end(),
-                   [&](FormatId id) { return changed_[id] != 0; });
-  if (nothing) return source_.bytes;
-
-  FindTouchedTrees();
-  NumberColours();
-  out_ = PatchedCopy(source_.bytes, Patches());
-  std::size_t character = 0;
-  for (const Tree& tree : touched_) {
-    for (; character < tree.inside.begin; ++character) {
-      if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
-    }
-    EmitTree(tree);
-    character = tree.inside.end;
-  }
-  for (; character < origins_.size(); ++character) {
-    if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
-  }
-  CloseWrap();
-  out_.CopyTo(static_cast<Offset>(source_.bytes.size()));
-  return out_.Take();
-}
-
-// The first character from `from` on whose bytes begin behind an offset. It is looked for in steps
-// that double, as it is near where searches go on from each other.
-std::size_t Writer::FirstBehind(Offset offset, std::size_t from) const {
-  std::size_t step = 1;
-  while (from + step < origins_.size() && origins_[from + step].begin <= offset) step *= 2;
-  const auto first = origins_.begin() + static_cast<std::ptrdiff_t>(from + step / 2);
-  const auto last =
-      origins_.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, origins_.size()));
-  if (from == origins_.size() || origins_[from].begin > offset) return from;
-  const auto found = std::upper_bound(
-      first, last, offset, [](Offset at, const Origin& origin) { return at < origin.begin; });
-  return static_cast<std::size_t>(found - origins_.begin());
-}
-
-// The characters between the braces of a group, none of which stands in front of `from`. One typed
-// at the opening brace stands in front of the group, one typed at the closing brace inside.
-Span Writer::CharactersOf(const MarkGroup& group, std::size_t from) const {
-  const std::size_t begin = FirstBehind(group.open, from);
-  return {begin, FirstBehind(group.close, begin)};
-}
-
-void Writer::FindTouchedTrees() {
-  const std::vector<MarkGroup>& groups = source_.groups;
-  Tree tree;
-  for (std::size_t at = 0; at < groups.size(); at = tree.end) {
-    tree = {at, at + 1, CharactersOf(groups[at], tree.inside.end)};
-    while (tree.end < groups.size() && groups[tree.end].open < groups[at].close) ++tree.end;
-    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) {
-      if (!IsChanged(i)) continue;
-      touched_.push_back(tree);
-      break;
+// Whether the bytes are read as this text, with every character looking as it does.
+bool ReadsAs(const Document& document, std::string bytes) {
+  const std::optional<Document> saved = Read(std::move(bytes));
+  if (!saved || saved->Text() != document.Text()) return false;
+  const std::vector<FormatId>& ids = document.FormatIds();
+  const std::vector<FormatId>& savedIds = saved->FormatIds();
+  for (std::size_t i = 0; i < ids.size(); ++i) {
+    const bool known = i > 0 && ids[i] == ids[i - 1] && savedIds[i] == savedIds[i - 1];
+    if (!known && !SameInFile(saved->Formats()[savedIds[i]], document.Formats()[ids[i]])) {
+      return false;
     }
   }
-}
-
-// Every colour that will be written gets its number before the table is copied.
-void Writer::NumberColours() {
-  std::vector<bool> used(targets_.size());
-  for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id] != 0;
-  for (const Tree& tree : touched_) {
-    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) used[formatIds_[i]] = true;
-  }
-  for (FormatId id = 0; id < used.size(); ++id) {
-    const Attributes& written = document_.Formats()[id].written;
-    if (used[id] && targets_[id].colour != written.colour) colours_.NumberOf(targets_[id].colour);
-  }
-}
-
-std::vector<Patch> Writer::Patches() const {
-  std::vector<Patch> patches;
-  std::size_t kept = 0;  // characters in front of the cut
-  for (const auto& [begin, end] : document_.Cuts()) {
-    kept = FirstBehind(begin, kept);
-    Patch patch{begin, end, std::string(bytesOf_.Inside(begin)), false};
-    if (!patches.empty() && patches.back().end == begin) {
-      patch.behindText = patches.back().behindText;
-    } else if (kept > 0) {
-      patch.behindText = bytesOf_.EndInText(kept - 1) && origins_[kept - 1].end() == begin;
-      if (bytesOf_.IsUnfinished(kept - 1)) patch.bytes.insert(0, "\n{}");
-    }
-    patches.push_back(patch);
-  }
-  if (colours_.HasNew()) {
-    const ColourTable& table = source_.colours;
-    patches.push_back({table.end, table.end, colours_.TableInsertion(), false});
-    if (table.expandedEnd != 0) {
-      patches.push_back({table.expandedEnd, table.expandedEnd, colours_.MirrorInsertion(), false});
-    }
-  }
-  std::stable_sort(patches.begin(), patches.end(), [](const Patch& a, const Patch& b) {
-    return a.begin < b.begin || (a.begin == b.begin && a.end < b.end);
-  });
-  return patches;
-}
-
-// Visits the braces of a tree's groups and the characters between them in the order of the file.
-template <class Visitor>
-void Writer::Walk(const Tree& tree, Visitor&& visitor) const {
-  const std::vector<MarkGroup>& groups = source_.groups;
-  std::size_t character = tree.inside.begin;
-  std::size_t next = tree.first + 1;
-  std::vector<std::size_t> open = {tree.first};
-  visitor.Open(tree.first);
-  while (!open.empty()) {
-    const Offset close = groups[open.back()].close;
-    const Offset brace = next < tree.end ? std::min(close, groups[next].open) : close;
-    if (character < origins_.size() && origins_[character].begin <= brace) {
-      visitor.Character(character++, open.back());
-    } else if (brace == close) {
-      visitor.Close(open.back());
-      open.pop_back();
-    } else {
-      visitor.Open(next);
-      open.push_back(next++);
-    }
-  }
-}
-
-// The formats of the characters that stand directly in each group of a tree.
-std::vector<std::vector<FormatId>> Writer::DirectFormats(const Tree& tree) const {
-  struct Collector {
-    const Writer& writer;
-    const Tree& tree;
-    std::vector<std::vector<FormatId>> formats;
-    void Open(std::size_t) {}
-    void Close(std::size_t) {}
-    void Character(std::size_t character, std::size_t group) {
-      std::vector<FormatId>& direct = formats[group - tree.first];
-      const FormatId id = writer.formatIds_[character];
-      if (direct.empty() || direct.back() != id) direct.push_back(id);
-    }
-  };
-  Collector collector{*this, tree, std::vector<std::vector<FormatId>>(tree.end - tree.first)};
-  Walk(tree, collector);
-  return std::move(collector.formats);
-}
-
-// Writes the groups of a tree anew. A group stays where its words still change something and a
-// character directly in it wants them; else its braces and words go, and what stood in it is
-// written against what is in force outside.
-void Writer::EmitTree(const Tree& tree) {
-  struct Emitter {
-    Writer& writer;
-    const Tree& tree;
-    std::vector<std::vector<FormatId>> direct;
-    std::vector<Attributes> inForce;
-    std::vector<bool> kept;
-    std::size_t next;  // the character that comes next
-
-    void Open(std::size_t index) {
-      const MarkGroup& group = writer.source_.groups[index];
-      const Attributes outside = inForce.back();
-      const Attributes inside = Changed(outside, group.words);
-      const std::vector<FormatId>& formats = direct[index - tree.first];
-      const bool wanted = std::any_of(formats.begin(), formats.end(),
-                                      [&](FormatId id) { return writer.targets_[id] == inside; });
-      const bool keep = inside != outside && wanted;
-      writer.CloseWrap();
-      writer.CopyInFront(next, group.open);
-      if (keep) {
-        writer.out_.CopyTo(group.content);
-      } else {
-        writer.out_.SkipTo(group.content);
-        writer.KeepApart(next, false);
-      }
-      kept.push_back(keep);
-      inForce.push_back(keep ? inside : outside);
-    }
-    void Character(std::size_t character, std::size_t) {
-      writer.Emit(character, inForce.back());
-      next = character + 1;
-    }
-    void Close(std::size_t index) {
-      const Offset brace = writer.source_.groups[index].close;
-      const auto size = static_cast<Offset>(writer.source_.bytes.size());
-      const Offset behind = std::min<Offset>(brace + 1, size);
-      writer.CloseWrap();
-      writer.CopyInFront(next, brace);
-      if (kept.back()) {
-        writer.out_.CopyTo(behind);
-      } else {
-        writer.out_.SkipTo(behind);
-        writer.KeepApart(next, false);
-      }
-      kept.pop_back();
-      inForce.pop_back();
-    }
-  };
-  const Attributes outside = source_.groups[tree.first].outside;
-  Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}, tree.inside.begin};
-  Walk(tree, emitter);
-}
-
-void Writer::Emit(std::size_t character, const Attributes& inForce) {
-  const Origin& origin = origins_[character];
-  const Attributes& target = Target(character);
-  const bool rightToLeft = document_.Formats()[formatIds_[character]].look.rightToLeft;
-  const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
-                      wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kSplit &&
-                      out_.OnlyLineEndsUpTo(origin.begin);
-  if (!goesOn) CloseWrap();
-  CopyInFront(character, origin.begin);
-  if (origin.kind == Origin::kSplit && target != inForce)
-    out_.Append(bytesOf_.WordsInside(character));
-  if (target != inForce && !goesOn) OpenWrap(character, inForce);
-  EmitBytes(character);
-  EndCharacter(character);
-  wrap_.end = character + 1;
-}
-
-void Writer::EmitBytes(std::size_t character) {
-  const Origin& origin = origins_[character];
-  // The halves of a split pair that is wrapped come together: the words stand in front.
-  const bool joined = origin.kind == Origin::kSplit && wrap_.open;
-  if (!origin.IsTyped() && !joined) {
-    const bool bare = bytesOf_.AreBareObject(character);
-    const std::size_t open = bytesOf_.OpenGroups(character);
-    if (bare) out_.Append("{");
-    out_.CopyTo(origin.end());
-    if (open > 0 && IsTyped(character + 1)) out_.Append(std::string(open, '}'));
-    if (bare && open == 0) out_.Append("}");
-    return;
-  }
-  KeepApart(character, true);
-  const CharacterLook& look = document_.Formats()[formatIds_[character]].look;
-  std::string bytes;
-  AppendCharacter(bytes, document_.Text()[character], look.fallback,
-                  document_.Fonts()[look.font].symbol);
-  out_.Append(bytes);
-  if (joined) out_.SkipTo(origin.end());
-}
-
-std::string Writer::Words(const Attributes& from, const Attributes& to, bool rightToLeft) {
-  std::string words;
-  if (from.colour != to.colour) words += "\\cf" + std::to_string(colours_.NumberOf(to.colour));
-  if (from.bold != to.bold) {
-    words += to.bold ? "\\b" : "\\b0";
-    // Other programs take the weight of a right-to-left run from here.
-    if (rightToLeft) words += to.bold ? "\\ab" : "\\ab0";
-  }
-  if (from.underline != to.underline) words += to.underline ? "\\ul" : "\\ulnone";
-  if (from.offset != to.offset) {
-    words += to.offset < 0 ? "\\dn" : "\\up";
-    words += std::to_string(std::abs(to.offset) / kTwipsInHalfPoint);
-  }
-  if (!words.empty()) words += ' ';
-  return words;
-}
-
-void Writer::OpenWrap(std::size_t character, const Attributes& inForce) {
-  wrap_ = {true, inForce, Target(character),
-           document_.Formats()[formatIds_[character]].look.rightToLeft, character};
-  AppendBehind(character, "{" + Words(inForce, wrap_.target, wrap_.rightToLeft));
-}
-
-void Writer::CloseWrap() {
-  if (!wrap_.open) return;
-  wrap_.open = false;
-  // In an object that the file breaks off in, a brace would be lost.
-  if (!IsTyped(wrap_.end) && bytesOf_.OpenGroups(wrap_.end - 1) > 0) return;
-  AppendBehind(wrap_.end, "}");
-}
-
-// Appends words of our own behind so many characters. The first byte of a broken sequence would
-// take a brace or backslash for its second one; a line end, which is nothing, stands between.
-void Writer::AppendBehind(std::size_t characters, std::string_view own) {
-  if (characters > 0 && document_.Text()[characters - 1] == kReplacement) out_.EndLine();
-  out_.Append(own);
-}
-
-// Where the copy stands behind so many characters and leaves out what the source has there, or is
-// about to put in text of its own: the last of them may be one that only a brace ends.
-void Writer::KeepApart(std::size_t characters, bool beforeOwn) {
-  if (characters == 0 || !bytesOf_.IsUnfinished(characters - 1)) return;
-  if (out_.HasBraceSinceMark() || (!beforeOwn && out_.IsBeforeBrace())) return;
-  AppendBehind(characters, "{}");
-}
-
-// Copies what stands in front of a character up to an offset.
-void Writer::CopyInFront(std::size_t character, Offset to) {
-  if (character > 0) {
-    const Offset end = origins_[character - 1].end();
-    if (out_.At() <= end && end <= to) {
-      out_.CopyTo(end);
-      EndCharacter(character - 1);
-    }
-  }
-  out_.CopyTo(to);
-}
-
-void Writer::EndCharacter(std::size_t character) {
-  out_.Mark();
-  if (IsTyped(character) || bytesOf_.EndInText(character)) out_.EndText();
+  return true;
 }
 
 }  // namespace
 
-std::string Write(const Document& document) { return Writer(document).Write(); }
+std::string Write(const Document& document) {
+  std::string patched = Patched(document);
+  const Source& source = document.GetSource();
+  if (source.wellFormed || patched == source.bytes || ReadsAs(document, patched)) return patched;
+  return Rewritten(document);
+}
 
 }  // namespace quill::rtf

@@ -80,6 +80,9 @@ struct Source {
   std::vector<MarkGroup> groups;      // in the order of their opening braces, nested ones included
   std::vector<SplitPair> splitPairs;  // in order
   Offset bodyEnd = 0;                 // where a first character of an empty text goes in
+  // Whether all of it is as programs write rich text. Where it is not, bytes of our own may be read
+  // together with what stands beside them, and a save is read again before it is trusted.
+  bool wellFormed = true;
 };
 
 }  // namespace quill

@@ -1,0 +1,149 @@
+// Every stretch of characters that look the same stands in a group that says all of its look, so
+// that no group depends on another.
+#include "rtf/rewriting.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include "rtf/ascii.h"
+#include "rtf/colour_numbers.h"
+#include "rtf/encode.h"
+#include "rtf/lexer.h"
+#include "rtf/tables.h"
+#include "text/unicode.h"
+
+namespace quill::rtf {
+namespace {
+
+constexpr std::uint32_t kFallback = 1;
+
+std::string Word(std::string_view name, int number) {
+  return "\\" + std::string(name) + std::to_string(number);
+}
+
+bool IsPrintableAscii(char c) { return c >= 0x20 && c <= 0x7E; }
+
+std::string FontTableOf(const std::vector<FontFace>& faces) {
+  std::string table = "{\\fonttbl";
+  // Face 0 is that of every font that the table lacks.
+  for (std::size_t face = 1; face < faces.size(); ++face) {
+    table += "{" + Word("f", static_cast<int>(face)) + (faces[face].symbol ? "\\fcharset2 " : " ");
+    for (const char c : faces[face].name) {
+      if (IsPrintableAscii(c) && std::string_view("\\{};").find(c) == std::string_view::npos) {
+        table += c;
+      }
+    }
+    table += ";}";
+  }
+  return table + "}";
+}
+
+std::string ParagraphWords(const ParagraphLook& look) {
+  std::string words = "\\pard";
+  const auto add = [&](std::string_view name, int number) {
+    if (number != 0) words += Word(name, number);
+  };
+  if (look.rightToLeft) words += "\\rtlpar";
+  if (look.alignment == Alignment::kCentre) words += "\\qc";
+  if (look.alignment == Alignment::kRight) words += "\\qr";
+  if (look.alignment == Alignment::kJustified) words += "\\qj";
+  if (look.inTable) words += "\\intbl";
+  add("li", look.left);
+  add("ri", look.right);
+  add("fi", look.first);
+  add("sb", look.before);
+  add("sa", look.after);
+  return words;
+}
+
+std::string CharacterWords(const CharacterLook& look, ColourNumbers& colours) {
+  std::string words = "\\plain";
+  if (look.rightToLeft) words += "\\rtlch";
+  if (look.font != 0) words += Word("f", look.font);
+  if (look.halfPoints != CharacterLook().halfPoints) words += Word("fs", look.halfPoints);
+  if (look.italic) words += "\\i";
+  if (look.struckOut) words += "\\strike";
+  if (look.hidden) words += "\\v";
+  if (look.script > 0) words += "\\super";
+  if (look.script < 0) words += "\\sub";
+  if (look.background > 0) {
+    words +=
+        Word("highlight", static_cast<int>(colours.NumberOf(static_cast<Colour>(look.background))));
+  } else if (look.background == 0) {
+    // Number 0 stands for none; one that the table lacks is black.
+    words += Word("highlight", kHighestColour + 1);
+  }
+  return words;
+}
+
+// Whether the bytes are groups, each of them whole: what they hold can stand anywhere.
+bool AreWholeGroups(std::string_view bytes) {
+  if (!bytes.starts_with('{')) return false;
+  std::size_t depth = 0;
+  Lexer lexer(bytes);
+  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
+    if (token.kind == Token::kOpen) ++depth;
+    if (depth == 0 && token.kind != Token::kIgnored) return false;
+    if (token.kind == Token::kClose) --depth;
+  }
+  return depth == 0;
+}
+
+class Rewriter {
+ public:
+  explicit Rewriter(const Document& document) : document_(document), colours_(noTable_) {}
+
+  std::string Take();
+
+ private:
+  void Open(const Format& format);
+  void Put(std::size_t character, const FontFace& face);
+
+  const Document& document_;
+  const ColourTable noTable_;
+  ColourNumbers colours_;
+  std::string body_;
+};
+
+std::string Rewriter::Take() {
+  const std::vector<FormatId>& ids = document_.FormatIds();
+  for (std::size_t i = 0; i < ids.size(); ++i) {
+    const Format& format = document_.Formats()[ids[i]];
+    if (i == 0 || ids[i] != ids[i - 1]) Open(format);
+    Put(i, document_.Fonts()[format.look.font]);
+    if (i + 1 == ids.size() || ids[i + 1] != ids[i]) body_ += "}\n";
+  }
+  return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1" + FontTableOf(document_.Fonts()) +
+         colours_.TableInsertion() + "\n" + body_ + "}\n";
+}
+
+void Rewriter::Open(const Format& format) {
+  body_ += "{" + ParagraphWords(format.paragraph) + CharacterWords(format.look, colours_) +
+           WordsBetween({}, InFile(format.now), format.look.rightToLeft, colours_);
+  if (body_.back() != ' ') body_ += ' ';
+}
+
+void Rewriter::Put(std::size_t character, const FontFace& face) {
+  const Origin& origin = document_.Origins()[character];
+  const std::string_view bytes =
+      std::string_view(document_.GetSource().bytes).substr(origin.begin, origin.length);
+  const char32_t c = document_.Text()[character];
+  if (c == kObject && AreWholeGroups(bytes)) {
+    body_ += "{";
+    body_ += bytes;
+    body_ += "}";
+  } else if (origin.kind == Origin::kCellEnd) {
+    body_ += "\\cell ";
+  } else if (origin.kind == Origin::kRowEnd) {
+    body_ += "\\row ";
+  } else {
+    AppendCharacter(body_, c, kFallback, face.symbol);
+  }
+}
+
+}  // namespace
+
+std::string Rewritten(const Document& document) { return Rewriter(document).Take(); }
+
+}  // namespace quill::rtf
