@@ -64,12 +64,19 @@ void DocumentBinder::Show() {
   if (changes.loaded) {
     ShowWhole();
   } else {
-    if (changes.edited) ShowEdit(changes.edit);
-    ShowFormats(changes.MergedFormats(text_.Length()));
+    ShowChanges(changes);
   }
   if (std::exchange(selectionMoved_, false) || changes.loaded || changes.edited) {
     ShowSelection(changes.edited);
   }
+}
+
+void DocumentBinder::ShowChanges(const TextChanges& changes) {
+  if (!changes.edited && changes.formats.empty()) return;
+  const DocumentView::Place place = view_.TopLine();
+  if (changes.edited) ShowEdit(changes.edit);
+  ShowFormats(changes.MergedFormats(text_.Length()));
+  view_.Restore(place);
 }
 
 FormatId DocumentBinder::ParagraphFormat(Position position) const {
@@ -153,20 +160,13 @@ void DocumentBinder::ShowFormats(const std::vector<Range>& ranges) {
 }
 
 void DocumentBinder::ShowSelection(bool edited) {
-  const Range range = text_.Selection();
-  const QTextCursor wanted = view_.CursorAt(range);
-  const QTextCursor shown = view_.textCursor();
-  const bool same = shown.selectionStart() == wanted.selectionStart() &&
-                    shown.selectionEnd() == wanted.selectionEnd();
-  // A selection that the user just made stays as it is, with its direction.
-  if (!same) view_.setTextCursor(wanted);
+  view_.ShowSelection();
   if (edited) {
     view_.ensureCursorVisible();
-  } else if (!view_.IsReporting()) {
+  } else if (!view_.IsReporting() && (text_.Selection().Length() > 0 || view_.IsInUse())) {
     // Also what is selected already: the user may have scrolled it away.
-    view_.Reveal(range);
+    view_.Reveal(text_.Selection());
   }
-  view_.viewport()->update();
 }
 
 }  // namespace quill

@@ -29,6 +29,7 @@ class DocumentBinder final : public WidgetBinder {
   DocumentBinder(TextSurface& text, DocumentView& view, Actions& actions);
 
   void ShowWhole();
+  void ShowChanges(const TextChanges& changes);
   void ShowEdit(const TextChanges::Edit& edit);
   void ShowFormats(const std::vector<Range>& ranges);
   void ShowParagraphs(Range range);

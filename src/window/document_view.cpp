@@ -9,8 +9,10 @@
 #include <QScrollBar>
 #include <QStyleHints>
 #include <algorithm>
+#include <utility>
 
 #include "window/shown.h"
+#include "workbench/form1.h"
 
 namespace quill {
 namespace {
@@ -70,6 +72,7 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   document->setParent(this);
   setDocument(document.release());
   preeditCaret_ = -1;
+  caretIsNoted_ = false;
   delete old.data();
 }
 
@@ -145,6 +148,53 @@ void DocumentView::Reveal(Range range) {
   }
 }
 
+DocumentView::Place DocumentView::TopLine() const {
+  const QTextCursor line = cursorForPosition(QPoint(0, 0));
+  return {line, cursorRect(line).top()};
+}
+
+void DocumentView::Restore(const Place& place) {
+  QScrollBar& bar = *verticalScrollBar();
+  const int value = bar.value() + cursorRect(place.line).top() - place.top;
+  if (value == bar.value()) return;
+  // The toolkit learns late how far down it has laid out the text.
+  bar.setMaximum(std::max(bar.maximum(), value));
+  bar.setValue(value);
+}
+
+// --- The caret -------------------------------------------------------------------------------
+
+bool DocumentView::IsInUse() const { return hasFocus() || text_.Form().Focus() == &text_; }
+
+void DocumentView::ShowSelection() {
+  const Range range = text_.Selection();
+  caretIsNoted_ = range.Length() == 0 && !IsInUse();
+  QTextCursor wanted = textCursor();
+  if (caretIsNoted_) {
+    wanted.clearSelection();
+  } else {
+    wanted = CursorAt(range);
+  }
+  const QTextCursor shown = textCursor();
+  // A selection that the user just made stays as it is, with its direction.
+  if (shown.selectionStart() != wanted.selectionStart() ||
+      shown.selectionEnd() != wanted.selectionEnd()) {
+    SetCursor(wanted);
+  }
+  viewport()->update();
+}
+
+void DocumentView::PlaceCaret() {
+  if (std::exchange(caretIsNoted_, false)) SetCursor(CursorAt(text_.Selection()));
+}
+
+// The toolkit would scroll to it.
+void DocumentView::SetCursor(const QTextCursor& cursor) {
+  const int top = verticalScrollBar()->value();
+  setTextCursor(cursor);
+  verticalScrollBar()->setValue(top);
+}
+
 // --- Painting --------------------------------------------------------------------------------
 
 void DocumentView::paintEvent(QPaintEvent* event) {
@@ -191,6 +241,7 @@ void DocumentView::timerEvent(QTimerEvent* event) {
 }
 
 void DocumentView::focusInEvent(QFocusEvent* event) {
+  PlaceCaret();
   QTextEdit::focusInEvent(event);
   RestartCaret();
 }

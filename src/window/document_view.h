@@ -24,6 +24,20 @@ class DocumentView final : public QTextEdit {
   PositionMap& Positions() { return positions_; }
   QTextCursor CursorAt(Range range) const;
 
+  // Shows the model's selection without scrolling. A caret that nobody looks at is only noted, and
+  // put in its place when the text is used: the way there would be laid out.
+  void ShowSelection();
+  // Whether a caret without a selection is of use: keys would go to it.
+  bool IsInUse() const;
+
+  // The line that the reader has at the top, and where it then was.
+  struct Place {
+    QTextCursor line;
+    int top = 0;
+  };
+  Place TopLine() const;
+  // Scrolls the line back to where it was before the text around it changed.
+  void Restore(const Place& place);
   // Scrolls so that a range is seen with some lines around it, clear of the panels that lie over
   // the text; nothing where it is seen so.
   void Reveal(Range range);
@@ -74,6 +88,8 @@ class DocumentView final : public QTextEdit {
   void Paste();
   void SelectEverything();
 
+  void PlaceCaret();
+  void SetCursor(const QTextCursor& cursor);
   bool EditKey(QKeyEvent* event);
   bool IsMovement(QKeyEvent* event) const;
   void ShowPreedit(const QInputMethodEvent& event);
@@ -87,7 +103,8 @@ class DocumentView final : public QTextEdit {
   QBasicTimer blink_;
   bool caretOn_ = false;
   bool reporting_ = false;
-  int preeditCaret_ = -1;  // inside the preedit text; -1 without one
+  bool caretIsNoted_ = false;  // the widget's own is elsewhere
+  int preeditCaret_ = -1;      // inside the preedit text; -1 without one
 };
 
 // What of a clipboard or a drop is text to type: no pictures, and paragraphs that end in U+000A.

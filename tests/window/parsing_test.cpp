@@ -34,10 +34,10 @@ class ParsingTest : public WindowTest {
     };
   }
 
-  // "left", then so many lines that say "not yet", then "left" again.
-  void OpenStory(int lines) {
+  // "left", then so many lines that all say the same, then "left" again.
+  void OpenStory(int lines, const std::string& line = "not yet") {
     std::string body = "\\qc left\\par ";
-    for (int i = 0; i < lines; ++i) body += "not yet\\par ";
+    for (int i = 0; i < lines; ++i) body += line + "\\par ";
     disk.files["x.spd"] = kDictionary;
     OpenText(body + "left\\par end");
     Press("Add_specific_parsing_list");
@@ -142,6 +142,33 @@ TEST_F(ParsingTest, PanelsOverTheTextDoNotHideAHit) {
     Press("Parse_3");
     EXPECT_EQ(asked, 2);
   }
+}
+
+TEST_F(ParsingTest, TheReaderKeepsThePlaceThatTheSearchLeavesAlone) {
+  std::string line;
+  for (int i = 0; i < 240; ++i) line += "not ";
+  OpenStory(60, line);
+  QScrollBar& bar = *View().verticalScrollBar();
+  bar.setValue(bar.maximum() / 2);
+  const auto atTop = [&] { return View().cursorForPosition({0, 0}).position(); };
+  const int top = atTop();
+  constexpr int kLine = 100;  // more characters than the first line can lose by wrapping anew
+  // The marks above are bold and take more lines than before.
+  Press("Parse_1");
+  EXPECT_EQ(At(0).bold, true);
+  EXPECT_GT(form.RichTextBox1.SelStart, 60 * 960);
+  EXPECT_NEAR(atTop(), top, kLine);
+  ExpectShown(window, form);
+  // Keys still go where the caret is.
+  Choose("mnuPostProcess");
+  EXPECT_NEAR(atTop(), top, kLine);
+  ExpectShown(window, form);
+  const auto caret = static_cast<std::size_t>(form.RichTextBox1.SelStart.Get());
+  Keys("x");
+  EXPECT_EQ(form.RichTextBox1.Text()[caret], U'x');
+  EXPECT_GT(atTop(), top + kLine);
+  EXPECT_TRUE(View().viewport()->rect().contains(View().cursorRect()));
+  ExpectShown(window, form);
 }
 
 }  // namespace
