@@ -11,13 +11,6 @@ namespace {
 
 bool IsIgnored(char c) { return c == '\r' || c == '\n' || c == '\0'; }
 
-int HexValue(char c) {
-  if (IsDigit(c)) return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 // Whether a byte goes on with a run of literal text.
 constexpr std::array<bool, 256> MakeLiteral() {
   std::array<bool, 256> literal{};

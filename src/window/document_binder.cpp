@@ -107,7 +107,7 @@ std::u32string_view DocumentBinder::Part(Range range) const {
 
 void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
   for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
-    const std::u32string shown = ShownText(Part(piece.range));
+    const std::u32string shown = ShownInText(Part(piece.range));
     const QTextCharFormat style = styles_.Character(piece.format);
     std::size_t line = 0;
     for (;;) {

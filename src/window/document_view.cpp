@@ -55,7 +55,7 @@ bool IsTyping(const QKeyEvent& event) {
 }  // namespace
 
 DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
-    : QTextEdit(&parent), text_(text), actions_(actions) {
+    : QTextEdit(&parent), text_(text), actions_(actions), pictures_(text.Doc(), positions_) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -70,6 +70,7 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   // The first one belongs to the toolkit, which deletes it by itself.
   const QPointer<QTextDocument> old = this->document();
   document->setParent(this);
+  pictures_.Serve(*document);
   setDocument(document.release());
   preeditCaret_ = -1;
   caretIsNoted_ = false;

@@ -10,6 +10,7 @@
 
 #include "window/actions.h"
 #include "window/position_map.h"
+#include "window/text_pictures.h"
 
 class QMimeData;
 
@@ -100,6 +101,7 @@ class DocumentView final : public QTextEdit {
   TextSurface& text_;
   Actions& actions_;
   PositionMap positions_;
+  TextPictures pictures_;
   QBasicTimer blink_;
   bool caretOn_ = false;
   bool reporting_ = false;

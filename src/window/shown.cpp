@@ -65,6 +65,13 @@ std::u32string ShownText(std::u32string_view text) {
   return shown;
 }
 
+std::u32string ShownInText(std::u32string_view text) {
+  std::u32string shown(text);
+  std::transform(shown.begin(), shown.end(), shown.begin(),
+                 [](char32_t c) { return c == kObject ? c : ShownCharacter(c); });
+  return shown;
+}
+
 std::u32string RawText(const QTextDocument& document) {
   QTextCursor all(document.firstBlock());
   all.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);

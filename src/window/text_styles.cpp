@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "window/appearance.h"
+#include "window/text_pictures.h"
 
 namespace quill {
 namespace {
@@ -38,6 +39,7 @@ void SetFont(QTextCharFormat& style, const CharacterLook& look,
 QTextCharFormat CharacterStyle(const Format& format, const std::vector<FontFace>& fonts) {
   const CharacterLook& look = format.look;
   QTextCharFormat style;
+  style.setObjectType(TextPictures::kObjectType);
   SetFont(style, look, fonts);
   style.setForeground(ToQColor(format.now.colour));
   style.setFontWeight(format.now.bold ? QFont::Bold : QFont::Normal);

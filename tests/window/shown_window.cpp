@@ -111,7 +111,7 @@ std::vector<std::pair<char32_t, Attributes>> ShownAttributes(const QTextDocument
 
 void ExpectText(QMainWindow& window, const TextSurface& text) {
   auto& view = Find<QTextEdit>(window, text);
-  EXPECT_EQ(RawText(*view.document()), ShownText(text.Text()));
+  EXPECT_EQ(RawText(*view.document()), ShownInText(text.Text()));
   const auto shown = ShownAttributes(*view.document());
   std::size_t at = 0;
   for (Position i = 0; i < text.Length() && !testing::Test::HasFailure(); ++i) {

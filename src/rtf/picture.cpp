@@ -1,0 +1,150 @@
+#include "rtf/picture.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+#include "rtf/ascii.h"
+#include "rtf/lexer.h"
+
+namespace quill::rtf {
+namespace {
+
+constexpr std::int64_t kTwipsInInch = 1440;
+// Of a picture without a size in print: a pixel is 1/96 inch, and drawings count in hundredths of
+// a millimetre.
+constexpr std::int64_t kTwipsInPixel = 15;
+constexpr std::int64_t kHundredthsInInch = 2540;
+constexpr std::int64_t kMostTwips = 22 * kTwipsInInch;  // the longest page of word processors
+
+// What the words of a group say of its width or height.
+struct Extent {
+  std::int64_t own = 0;   // in pixels, or hundredths of a millimetre
+  std::int64_t goal = 0;  // in twips
+  std::int64_t scale = 100;
+
+  Twips Shown(bool pixels) const {
+    std::int64_t length = goal;
+    if (length <= 0) {
+      length = pixels ? own * kTwipsInPixel : own * kTwipsInInch / kHundredthsInInch;
+    }
+    if (scale > 0) length = length * scale / 100;
+    return static_cast<Twips>(std::clamp<std::int64_t>(length, 0, kMostTwips));
+  }
+};
+
+// Goes through the \pict groups inside a group, from one's data to the next one's.
+class PictureWalk {
+ public:
+  explicit PictureWalk(std::string_view group) : lexer_(group) {}
+
+  // Goes on to where the next picture's data begins. Returns false behind the last one.
+  bool Next() {
+    if (inPicture_) Data();
+    for (Token token = lexer_.Next(); token.kind != Token::kEnd; token = lexer_.Next()) {
+      CountBraces(token);
+      if (token.kind == Token::kWord && token.word == "pict") Enter();
+      if (inPicture_ && depth_ == pictureDepth_ && IsData(token)) {
+        first_ = token;
+        return true;
+      }
+      if (token.kind == Token::kWord) Take(token);
+    }
+    return false;
+  }
+
+  bool IsDrawable() const { return pixels_; }
+  PictureSize Size() const { return {width_.Shown(pixels_), height_.Shown(pixels_)}; }
+
+  // The data that begins where Next stopped; once.
+  std::string Data() {
+    std::string data;
+    int high = -1;
+    for (Token token = first_; token.kind != Token::kEnd; token = lexer_.Next()) {
+      CountBraces(token);
+      if (!inPicture_) break;
+      if (depth_ != pictureDepth_) continue;
+      if (token.kind == Token::kText) TakeHex(token, data, high);
+      if (token.kind == Token::kWord && token.word == "bin") TakeBinary(token, data);
+    }
+    return data;
+  }
+
+ private:
+  static bool IsData(const Token& token) {
+    return token.kind == Token::kText || (token.kind == Token::kWord && token.word == "bin");
+  }
+
+  void CountBraces(const Token& token) {
+    if (token.kind == Token::kOpen) ++depth_;
+    if (token.kind != Token::kClose) return;
+    --depth_;
+    if (depth_ < pictureDepth_) inPicture_ = false;
+  }
+
+  void Enter() {
+    inPicture_ = true;
+    pictureDepth_ = depth_;
+    width_ = height_ = {};
+    pixels_ = false;
+  }
+
+  void Take(const Token& token) {
+    if (token.word == "objw") width_.goal = token.number;
+    if (token.word == "objh") height_.goal = token.number;
+    if (!inPicture_ || depth_ != pictureDepth_) return;
+    if (token.word == "picw") width_.own = token.number;
+    if (token.word == "pich") height_.own = token.number;
+    if (token.word == "picwgoal") width_.goal = token.number;
+    if (token.word == "pichgoal") height_.goal = token.number;
+    if (token.word == "picscalex") width_.scale = token.number;
+    if (token.word == "picscaley") height_.scale = token.number;
+    if (token.word == "pngblip" || token.word == "jpegblip") pixels_ = true;
+  }
+
+  void TakeHex(const Token& token, std::string& data, int& high) const {
+    for (const char c : lexer_.BytesOf(token)) {
+      const int digit = HexValue(c);
+      if (digit < 0) continue;
+      if (high < 0) {
+        high = digit;
+      } else {
+        data += static_cast<char>(high * 16 + digit);
+        high = -1;
+      }
+    }
+  }
+
+  void TakeBinary(const Token& token, std::string& data) const {
+    const std::string_view bytes = lexer_.BytesOf(token);
+    const auto length = static_cast<std::size_t>(std::max(token.number, 0));
+    data += bytes.substr(bytes.size() - std::min(length, bytes.size()));
+  }
+
+  Lexer lexer_;
+  std::int64_t depth_ = 0;
+  std::int64_t pictureDepth_ = 0;
+  bool inPicture_ = false;
+  Token first_;
+  Extent width_;
+  Extent height_;
+  bool pixels_ = false;
+};
+
+}  // namespace
+
+PictureSize SizeOfPicture(std::string_view group) {
+  PictureWalk walk(group);
+  walk.Next();
+  return walk.Size();
+}
+
+std::string PictureData(std::string_view group) {
+  PictureWalk walk(group);
+  while (walk.Next()) {
+    if (walk.IsDrawable()) return walk.Data();
+  }
+  return {};
+}
+
+}  // namespace quill::rtf
