@@ -3,11 +3,13 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextOption>
 #include <algorithm>
 #include <utility>
 
 #include "text/unicode.h"
 #include "window/appearance.h"
+#include "window/paragraph_decoration.h"
 #include "window/shown.h"
 
 namespace quill {
@@ -17,11 +19,17 @@ namespace {
 // time one by one.
 constexpr std::size_t kMostSingleEdits = 50;
 
+// Half an inch, as in word processors, in pixels.
+constexpr double kTabStop = 48;
+
 std::unique_ptr<QTextDocument> EmptyDocument(const QFont& font) {
   auto document = std::make_unique<QTextDocument>();
   document->setUndoRedoEnabled(false);
   document->setDefaultFont(font);
   document->setDocumentMargin(8);
+  QTextOption option = document->defaultTextOption();
+  option.setTabStopDistance(kTabStop);
+  document->setDefaultTextOption(option);
   return document;
 }
 
@@ -86,15 +94,19 @@ FormatId DocumentBinder::ParagraphFormat(Position position) const {
   return text_.Doc().FormatIds()[std::min(end, text.size() - 1)];
 }
 
+QTextBlockFormat DocumentBinder::ParagraphStyle(Position paragraph,
+                                                const QTextBlockFormat& before) {
+  return WithRoom(styles_.Paragraph(ParagraphFormat(paragraph)), text_.Doc(), paragraph, before);
+}
+
 void DocumentBinder::ShowWhole() {
   styles_.Use(text_.Doc());
   view_.Positions().Load(text_.Text());
   std::unique_ptr<QTextDocument> document = EmptyDocument(view_.font());
   QTextCursor cursor(document.get());
   cursor.beginEditBlock();
-  const FormatId first = ParagraphFormat(0);
-  cursor.setBlockFormat(styles_.Paragraph(first));
-  cursor.setBlockCharFormat(styles_.Character(first));
+  cursor.setBlockFormat(ParagraphStyle(0, {}));
+  cursor.setBlockCharFormat(styles_.Character(ParagraphFormat(0)));
   Insert(cursor, {0, text_.Length()});
   cursor.endEditBlock();
   view_.Exchange(std::move(document));
@@ -116,8 +128,9 @@ void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
         cursor.insertText(ToQt(std::u32string_view(shown).substr(line, end - line)), style);
       if (end == shown.size()) break;
       line = end + 1;
-      const FormatId next = ParagraphFormat(piece.range.begin + static_cast<Position>(line));
-      cursor.insertBlock(styles_.Paragraph(next), styles_.Character(next));
+      const Position next = piece.range.begin + static_cast<Position>(line);
+      cursor.insertBlock(ParagraphStyle(next, cursor.blockFormat()),
+                         styles_.Character(ParagraphFormat(next)));
     }
   }
 }
@@ -138,8 +151,8 @@ void DocumentBinder::ShowParagraphs(Range range) {
   QTextCursor cursor = view_.CursorAt({range.begin, range.begin});
   const QTextBlock last = view_.document()->findBlock(view_.Positions().ToWidget(range.end)).next();
   for (QTextBlock block = cursor.block(); block.isValid() && block != last; block = block.next()) {
-    const QTextBlockFormat& style =
-        styles_.Paragraph(ParagraphFormat(view_.Positions().ToModel(block.position())));
+    const QTextBlockFormat style =
+        ParagraphStyle(view_.Positions().ToModel(block.position()), block.previous().blockFormat());
     if (block.blockFormat() != style) QTextCursor(block).setBlockFormat(style);
   }
 }

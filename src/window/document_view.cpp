@@ -4,10 +4,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
-#include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
-#include <QStyleHints>
 #include <algorithm>
 #include <utility>
 
@@ -16,10 +14,6 @@
 
 namespace quill {
 namespace {
-
-// Under the highlight the marks keep their own colours: they are what the user looks at.
-const QColor kHighlight(0xbf, 0xdb, 0xfa);
-const QColor kHighlightWithoutFocus(0xd5, 0xe2, 0xf0);
 
 constexpr QKeySequence::StandardKey kMovements[] = {
     QKeySequence::MoveToNextChar,        QKeySequence::MoveToPreviousChar,
@@ -55,7 +49,11 @@ bool IsTyping(const QKeyEvent& event) {
 }  // namespace
 
 DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
-    : QTextEdit(&parent), text_(text), actions_(actions), pictures_(text.Doc(), positions_) {
+    : QTextEdit(&parent),
+      text_(text),
+      actions_(actions),
+      pictures_(text.Doc(), positions_),
+      decoration_(text.Doc(), positions_) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -71,6 +69,7 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   const QPointer<QTextDocument> old = this->document();
   document->setParent(this);
   pictures_.Serve(*document);
+  decoration_.Clear();
   setDocument(document.release());
   preeditCaret_ = -1;
   caretIsNoted_ = false;
@@ -194,62 +193,6 @@ void DocumentView::SetCursor(const QTextCursor& cursor) {
   const int top = verticalScrollBar()->value();
   setTextCursor(cursor);
   verticalScrollBar()->setValue(top);
-}
-
-// --- Painting --------------------------------------------------------------------------------
-
-void DocumentView::paintEvent(QPaintEvent* event) {
-  QPainter painter(viewport());
-  const QPoint offset(horizontalScrollBar()->value(), verticalScrollBar()->value());
-  painter.translate(-offset);
-  const QRect clip = event->rect().translated(offset);
-  painter.setClipRect(clip);
-  QAbstractTextDocumentLayout::PaintContext context;
-  context.clip = clip;
-  context.palette = palette();
-  context.cursorPosition = CaretPosition();
-  if (textCursor().hasSelection()) {
-    QAbstractTextDocumentLayout::Selection selection;
-    selection.cursor = textCursor();
-    selection.format.setBackground(hasFocus() ? kHighlight : kHighlightWithoutFocus);
-    context.selections.append(selection);
-  }
-  document()->documentLayout()->draw(&painter, context);
-}
-
-int DocumentView::CaretPosition() const {
-  if (!caretOn_ || !hasFocus()) return -1;
-  // The layout's way to say: inside the preedit text.
-  if (preeditCaret_ >= 0) return -(preeditCaret_ + 2);
-  return textCursor().position();
-}
-
-void DocumentView::RestartCaret() {
-  caretOn_ = hasFocus();
-  blink_.stop();
-  const int period = QGuiApplication::styleHints()->cursorFlashTime();
-  if (caretOn_ && period > 1) blink_.start(period / 2, this);
-  viewport()->update();
-}
-
-void DocumentView::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != blink_.timerId()) {
-    QTextEdit::timerEvent(event);
-    return;
-  }
-  caretOn_ = !caretOn_;
-  viewport()->update(cursorRect().adjusted(-2, -2, 2, 2));
-}
-
-void DocumentView::focusInEvent(QFocusEvent* event) {
-  PlaceCaret();
-  QTextEdit::focusInEvent(event);
-  RestartCaret();
-}
-
-void DocumentView::focusOutEvent(QFocusEvent* event) {
-  QTextEdit::focusOutEvent(event);
-  RestartCaret();
 }
 
 // --- Selecting -------------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "window/actions.h"
+#include "window/paragraph_decoration.h"
 #include "window/position_map.h"
 #include "window/text_pictures.h"
 
@@ -102,6 +103,7 @@ class DocumentView final : public QTextEdit {
   Actions& actions_;
   PositionMap positions_;
   TextPictures pictures_;
+  ParagraphDecoration decoration_;
   QBasicTimer blink_;
   bool caretOn_ = false;
   bool reporting_ = false;

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "window/appearance.h"
+#include "window/paragraph_decoration.h"
 #include "window/text_pictures.h"
 
 namespace quill {
@@ -79,6 +80,7 @@ QTextBlockFormat ParagraphStyle(const ParagraphLook& look) {
   style.setTextIndent(std::max(PixelsOf(look.first), -style.leftMargin()));
   style.setTopMargin(std::max(0.0, PixelsOf(look.before)));
   style.setBottomMargin(std::max(0.0, PixelsOf(look.after)));
+  if (look.inTable) SetInTable(style);
   return style;
 }
 

@@ -1,0 +1,107 @@
+#include "rtf/decoration.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include "rtf/lexer.h"
+#include "rtf/reader.h"
+
+namespace quill::rtf {
+namespace {
+
+// A file that holds more in front of its text, or of a paragraph, must not take the time.
+constexpr std::size_t kMostHeader = std::size_t{1} << 17U;
+constexpr std::size_t kMostInFront = std::size_t{1} << 17U;
+constexpr std::size_t kMostLabelBytes = 4096;
+constexpr std::size_t kMostLabel = 32;
+constexpr std::size_t kMostCells = 64;
+
+// The bytes between the character before a paragraph and its first one.
+std::string_view InFrontOf(const Document& document, Position paragraph) {
+  const auto at = static_cast<std::size_t>(paragraph);
+  const std::vector<Origin>& origins = document.Origins();
+  const std::size_t begin = at > 0 ? origins[at - 1].end() : 0;
+  const std::size_t end = origins[at].begin;
+  if (begin >= end) return {};
+  const std::size_t length = std::min(end - begin, kMostInFront);
+  return std::string_view(document.GetSource().bytes).substr(end - length, length);
+}
+
+// Where a label's group has its content; empty where there is none.
+std::string_view LabelIn(std::string_view bytes) {
+  for (const std::string_view head : {"{\\listtext", "{\\pntext"}) {
+    const std::size_t at = bytes.rfind(head);
+    if (at != std::string_view::npos) return bytes.substr(at + head.size(), kMostLabelBytes);
+  }
+  return {};
+}
+
+// As far as the brace that closes the group in which the bytes begin.
+std::string_view UpToClose(std::string_view bytes) {
+  Lexer lexer(bytes);
+  for (int depth = 1;;) {
+    const Token token = lexer.Next();
+    if (token.kind == Token::kOpen) ++depth;
+    if (token.kind == Token::kClose) --depth;
+    if (depth == 0 || token.kind == Token::kEnd) return bytes.substr(0, token.begin);
+  }
+}
+
+// The tables of the file, for the label's fonts, and the label: a small file. It breaks off, which
+// does no harm.
+std::string LabelFile(const Document& document, std::string_view label) {
+  const Source& source = document.GetSource();
+  const std::size_t header =
+      source.colours.present ? source.colours.end : document.Origins()[0].begin;
+  std::string file = header < kMostHeader ? source.bytes.substr(0, header) : "{\\rtf1";
+  if (source.colours.present && header < kMostHeader) file += '}';
+  file += '{';
+  file += label;
+  file += '}';
+  return file;
+}
+
+}  // namespace
+
+int LabelLength(const Document& document, Position paragraph) {
+  const std::string_view label = UpToClose(LabelIn(InFrontOf(document, paragraph)));
+  Lexer lexer(label);
+  std::size_t length = 0;
+  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
+    if (token.kind == Token::kText) length += token.end - token.begin;
+    // What stands in for a \u counts instead of it.
+    if (token.kind == Token::kHex) ++length;
+  }
+  return static_cast<int>(std::min(length, kMostLabel));
+}
+
+std::u32string LabelOf(const Document& document, Position paragraph) {
+  const std::string_view group = LabelIn(InFrontOf(document, paragraph));
+  if (group.empty()) return {};
+  const auto read = Read(LabelFile(document, UpToClose(group)));
+  if (!read) return {};
+  constexpr std::u32string_view kBlanks = U" \t\n\u00A0\u2028";
+  std::u32string label = read->Text();
+  label.erase(0, label.find_first_not_of(kBlanks));
+  label.erase(label.find_last_not_of(kBlanks) + 1);
+  label.resize(std::min(label.size(), kMostLabel));
+  return label;
+}
+
+std::vector<Twips> CellEdges(const Document& document, Position paragraph) {
+  std::string_view bytes = InFrontOf(document, paragraph);
+  const std::size_t row = bytes.rfind("\\trowd");
+  if (row == std::string_view::npos) return {};
+  bytes.remove_prefix(row);
+  std::vector<Twips> edges;
+  Lexer lexer(bytes);
+  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
+    if (token.kind != Token::kWord || token.word != "cellx") continue;
+    if (edges.size() == kMostCells) break;
+    edges.push_back(std::max(token.number, edges.empty() ? 0 : edges.back()));
+  }
+  return edges;
+}
+
+}  // namespace quill::rtf

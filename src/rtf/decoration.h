@@ -1,0 +1,26 @@
+// What stands around paragraphs without being text: the labels of lists and the cells of tables.
+// Read from the bytes in front of a paragraph when it is asked for; the document keeps none of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/document.h"
+
+namespace quill::rtf {
+
+// In all of these `paragraph` is the position of a paragraph's first character, inside the text.
+
+// About how many characters long the bullet or number is that the file gives the paragraph; 0
+// where there is none.
+int LabelLength(const Document& document, Position paragraph);
+// The bullet or number itself, without blanks around it, at most 32 characters. It reads the tables
+// of the file anew, which takes a thousand times longer.
+std::u32string LabelOf(const Document& document, Position paragraph);
+
+// The right edges of a table row's cells, counted from the text's left margin, as far as they are
+// told in front of that paragraph, at most 64. Empty where none are: then those of the row before
+// hold.
+std::vector<Twips> CellEdges(const Document& document, Position paragraph);
+
+}  // namespace quill::rtf

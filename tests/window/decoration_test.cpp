@@ -1,0 +1,79 @@
+// What is drawn around paragraphs without being text of theirs.
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QtTest>
+
+#include "shown_window.h"
+#include "user.h"
+
+namespace quill::test {
+namespace {
+
+class DecorationTest : public WindowTest {
+ protected:
+  // Whether something is painted in a rectangle of the text.
+  bool IsPainted(const QRect& place) {
+    const QImage image = View().viewport()->grab(place).toImage();
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, y).lightness() < 160) return true;
+      }
+    }
+    return false;
+  }
+  QRect CaretAt(Position at) {
+    QTextCursor cursor(View().document());
+    cursor.setPosition(static_cast<int>(at));
+    return View().cursorRect(cursor);
+  }
+};
+
+TEST_F(DecorationTest, LabelsStandInFrontOfTheirParagraphs) {
+  OpenText(
+      R"(\fi-360\li720{\listtext 7.\tab}seven\par {\listtext\tab}none\par )"
+      R"(\pard{\listtext (viii)\tab}eight\par \pard\rtlpar{\listtext 9.\tab}\u1488?\u1489?\par)");
+  EXPECT_EQ(form.RichTextBox1.Text(), U"seven\nnone\neight\n\u05D0\u05D1\n");
+  EXPECT_NEAR(CaretAt(0).left(), 8 + 48, 2) << "the text begins where the tab stop would be";
+  const auto before = [&](Position at) {
+    const QRect caret = CaretAt(at);
+    return QRect(QPoint(0, caret.top()), QPoint(caret.left() - 3, caret.bottom()));
+  };
+  EXPECT_TRUE(IsPainted(before(0)));
+  EXPECT_FALSE(IsPainted(before(6)));
+  EXPECT_TRUE(IsPainted(before(11)));
+  const QRect right = CaretAt(17);
+  EXPECT_TRUE(IsPainted({right.right() + 3, right.top(), View().width(), right.height()}));
+  // A label is neither selected nor copied, and goes with its paragraph.
+  DragOver(0, 5);
+  EXPECT_EQ(form.RichTextBox1.SelText(), U"seven");
+  Key(Qt::Key_Home, Qt::ControlModifier);
+  Keys("x");
+  EXPECT_TRUE(IsPainted(before(0)));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(form.RichTextBox1.Text().substr(0, 7), U"x\nseven");
+  ExpectShown(window, form);
+}
+
+TEST_F(DecorationTest, CellsStandUnderEachOther) {
+  OpenText(R"(\trowd\cellx1500\cellx4500\intbl a\cell bb\cell\row )"
+           R"(\intbl long\cell b\par and\cell\row\pard behind)");
+  const std::u32string& text = form.RichTextBox1.Text();
+  EXPECT_EQ(text, U"a\tbb\t\nlong\tb\nand\t\nbehind");
+  EXPECT_NEAR(CaretAt(2).left(), 8 + 100 + 7, 2);
+  EXPECT_EQ(CaretAt(11).left(), CaretAt(2).left());
+  EXPECT_EQ(CaretAt(13).left(), CaretAt(2).left()) << "the second paragraph of a cell";
+  EXPECT_EQ(CaretAt(18).left(), 8) << "behind the table";
+  // A line between the rows.
+  const QRect gap(QPoint(200, CaretAt(0).bottom() + 1), QPoint(300, CaretAt(6).top() - 1));
+  const QImage image = View().viewport()->grab(gap).toImage();
+  int lines = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    lines += image.pixel(0, y) != image.pixel(0, 0) || image.pixel(50, y) != image.pixel(50, 0);
+  }
+  EXPECT_EQ(lines, 1);
+  ExpectShown(window, form);
+}
+
+}  // namespace
+}  // namespace quill::test
