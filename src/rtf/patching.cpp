@@ -13,17 +13,12 @@
 #include "rtf/character_bytes.h"
 #include "rtf/colour_numbers.h"
 #include "rtf/encode.h"
+#include "rtf/mark_trees.h"
 #include "rtf/patched_copy.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
 namespace {
-
-// A range of character indices.
-struct Span {
-  std::size_t begin = 0;
-  std::size_t end = 0;
-};
 
 class Patcher {
  public:
@@ -32,13 +27,6 @@ class Patcher {
   std::string Take();
 
  private:
-  // A group with those directly and indirectly in it: a range of the source's list.
-  struct Tree {
-    std::size_t first = 0;
-    std::size_t end = 0;
-    Span inside;  // its characters
-  };
-
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
     return IsChanged(character) || origins_[character].IsTyped() ||
@@ -52,16 +40,11 @@ class Patcher {
     return character < origins_.size() && origins_[character].IsTyped();
   }
   const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
-  std::size_t FirstBehind(Offset offset, std::size_t from) const;
-  Span CharactersOf(const MarkGroup& group, std::size_t from) const;
-  void FindTouchedTrees();
   void NumberColours();
   std::vector<Patch> Patches() const;
 
-  template <class Visitor>
-  void Walk(const Tree& tree, Visitor&& visitor) const;
-  std::vector<std::vector<FormatId>> DirectFormats(const Tree& tree) const;
-  void EmitTree(const Tree& tree);
+  std::vector<std::vector<FormatId>> DirectFormats(const MarkTree& tree) const;
+  void EmitTree(const MarkTree& tree);
   void Emit(std::size_t character, const Attributes& inForce);
   void EmitBytes(std::size_t character);
   void OpenWrap(std::size_t character, const Attributes& inForce);
@@ -76,9 +59,10 @@ class Patcher {
   const std::vector<FormatId>& formatIds_;
   const std::vector<Origin>& origins_;
   const CharacterBytes bytesOf_;
+  const MarkTrees trees_;
   std::vector<Attributes> targets_;  // of each format, as the file is to have it
   std::vector<char> changed_;        // whether that differs from what its place has
-  std::vector<Tree> touched_;        // groups with a changed character in them, in order
+  std::vector<MarkTree> touched_;    // groups with a changed character in them, in order
   ColourNumbers colours_;
   PatchedCopy out_;
 
@@ -99,6 +83,7 @@ Patcher::Patcher(const Document& document)
       formatIds_(document.FormatIds()),
       origins_(document.Origins()),
       bytesOf_(document),
+      trees_(document),
       colours_(source_.colours),
       out_("", {}) {
   const FormatTable& formats = document.Formats();
@@ -116,11 +101,11 @@ std::string Patcher::Take() {
                    [&](FormatId id) { return changed_[id] != 0; });
   if (nothing) return source_.bytes;
 
-  FindTouchedTrees();
+  touched_ = trees_.Holding([&](std::size_t character) { return IsChanged(character); });
   NumberColours();
   out_ = PatchedCopy(source_.bytes, Patches());
   std::size_t character = 0;
-  for (const Tree& tree : touched_) {
+  for (const MarkTree& tree : touched_) {
     for (; character < tree.inside.begin; ++character) {
       if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
     }
@@ -135,46 +120,11 @@ std::string Patcher::Take() {
   return out_.Take();
 }
 
-// The first character from `from` on whose bytes begin behind an offset. It is looked for in steps
-// that double, as it is near where searches go on from each other.
-std::size_t Patcher::FirstBehind(Offset offset, std::size_t from) const {
-  std::size_t step = 1;
-  while (from + step < origins_.size() && origins_[from + step].begin <= offset) step *= 2;
-  const auto first = origins_.begin() + static_cast<std::ptrdiff_t>(from + step / 2);
-  const auto last =
-      origins_.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, origins_.size()));
-  if (from == origins_.size() || origins_[from].begin > offset) return from;
-  const auto found = std::upper_bound(
-      first, last, offset, [](Offset at, const Origin& origin) { return at < origin.begin; });
-  return static_cast<std::size_t>(found - origins_.begin());
-}
-
-// The characters between the braces of a group, none of which stands in front of `from`. One typed
-// at the opening brace stands in front of the group, one typed at the closing brace inside.
-Span Patcher::CharactersOf(const MarkGroup& group, std::size_t from) const {
-  const std::size_t begin = FirstBehind(group.open, from);
-  return {begin, FirstBehind(group.close, begin)};
-}
-
-void Patcher::FindTouchedTrees() {
-  const std::vector<MarkGroup>& groups = source_.groups;
-  Tree tree;
-  for (std::size_t at = 0; at < groups.size(); at = tree.end) {
-    tree = {at, at + 1, CharactersOf(groups[at], tree.inside.end)};
-    while (tree.end < groups.size() && groups[tree.end].open < groups[at].close) ++tree.end;
-    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) {
-      if (!IsChanged(i)) continue;
-      touched_.push_back(tree);
-      break;
-    }
-  }
-}
-
 // Every colour that will be written gets its number before the table is copied.
 void Patcher::NumberColours() {
   std::vector<bool> used(targets_.size());
   for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id] != 0;
-  for (const Tree& tree : touched_) {
+  for (const MarkTree& tree : touched_) {
     for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) used[formatIds_[i]] = true;
   }
   for (FormatId id = 0; id < used.size(); ++id) {
@@ -187,7 +137,7 @@ std::vector<Patch> Patcher::Patches() const {
   std::vector<Patch> patches;
   std::size_t kept = 0;  // characters in front of the cut
   for (const auto& [begin, end] : document_.Cuts()) {
-    kept = FirstBehind(begin, kept);
+    kept = FirstBehind(origins_, begin, kept);
     Patch patch{begin, end, std::string(bytesOf_.Inside(begin)), false};
     if (!patches.empty() && patches.back().end == begin) {
       patch.behindText = patches.back().behindText;
@@ -210,34 +160,11 @@ std::vector<Patch> Patcher::Patches() const {
   return patches;
 }
 
-// Visits the braces of a tree's groups and the characters between them in the order of the file.
-template <class Visitor>
-void Patcher::Walk(const Tree& tree, Visitor&& visitor) const {
-  const std::vector<MarkGroup>& groups = source_.groups;
-  std::size_t character = tree.inside.begin;
-  std::size_t next = tree.first + 1;
-  std::vector<std::size_t> open = {tree.first};
-  visitor.Open(tree.first);
-  while (!open.empty()) {
-    const Offset close = groups[open.back()].close;
-    const Offset brace = next < tree.end ? std::min(close, groups[next].open) : close;
-    if (character < origins_.size() && origins_[character].begin <= brace) {
-      visitor.Character(character++, open.back());
-    } else if (brace == close) {
-      visitor.Close(open.back());
-      open.pop_back();
-    } else {
-      visitor.Open(next);
-      open.push_back(next++);
-    }
-  }
-}
-
 // The formats of the characters that stand directly in each group of a tree.
-std::vector<std::vector<FormatId>> Patcher::DirectFormats(const Tree& tree) const {
+std::vector<std::vector<FormatId>> Patcher::DirectFormats(const MarkTree& tree) const {
   struct Collector {
     const Patcher& patcher;
-    const Tree& tree;
+    const MarkTree& tree;
     std::vector<std::vector<FormatId>> formats;
     void Open(std::size_t) {}
     void Close(std::size_t) {}
@@ -248,17 +175,17 @@ std::vector<std::vector<FormatId>> Patcher::DirectFormats(const Tree& tree) cons
     }
   };
   Collector collector{*this, tree, std::vector<std::vector<FormatId>>(tree.end - tree.first)};
-  Walk(tree, collector);
+  trees_.Walk(tree, collector);
   return std::move(collector.formats);
 }
 
 // Writes the groups of a tree anew. A group stays where its words still change something and a
 // character directly in it wants them; else its braces and words go, and what stood in it is
 // written against what is in force outside.
-void Patcher::EmitTree(const Tree& tree) {
+void Patcher::EmitTree(const MarkTree& tree) {
   struct Emitter {
     Patcher& patcher;
-    const Tree& tree;
+    const MarkTree& tree;
     std::vector<std::vector<FormatId>> direct;
     std::vector<Attributes> inForce;
     std::vector<bool> kept;
@@ -305,7 +232,7 @@ void Patcher::EmitTree(const Tree& tree) {
   };
   const Attributes outside = source_.groups[tree.first].outside;
   Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}, tree.inside.begin};
-  Walk(tree, emitter);
+  trees_.Walk(tree, emitter);
 }
 
 void Patcher::Emit(std::size_t character, const Attributes& inForce) {
