@@ -284,6 +284,7 @@ TEST(RtfWriter, WritesADamagedTextAnewRatherThanChangeIt) {
       // What was harmless behind a character would hide its group at the head of it.
       {"a{x\\*\\unknown y}z", {1, 2}, "ayz"},
       {"a{\\*x\\unknown y}z", {1, 2}, "ayz"},
+      {"a{\\*\\line\\unknown y}z", {1, 2}, "ayz"},
       // A brace that stood in for a character no longer does.
       {"a{\\u-1{}\\b b\\*\\unknown y}{\\pict 00}", {1, 3}, "a<b>y</>\uFFFC"},
   };

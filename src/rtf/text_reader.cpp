@@ -181,7 +181,8 @@ void TextReader::TakeSymbol(const Token& token) {
 
 void TextReader::TakeWord(const Token& token) {
   const WordEntry& entry = LookUp(token.word);
-  if (starred_ && !starredHead_) Oddity();
+  const bool isCharacter = entry.word >= Word::kCharacter && entry.word <= Word::kUnicode;
+  if (starred_ && (!starredHead_ || isCharacter)) Oddity();
   EndHeader(&entry, token);
   if (TakeCharacter(entry, token)) return;
   text_.WordComes();
