@@ -24,6 +24,7 @@ WidgetBinder::WidgetBinder(const Control& control, QWidget& widget, Actions& act
   widget.setFont(FontOf(row));
   widget.setToolTip(ToQt(row.stored.toolTip));
   widget.setAccessibleName(SpokenName(row));
+  widget.setAccessibleDescription(SpokenDescription(row));
   if (!row.stored.tabStop) widget.setFocusPolicy(Qt::ClickFocus);
 }
 

@@ -51,6 +51,9 @@ class CaptionButton : public QPushButton {
     painter.setPen(QPen(Mixed(palette().color(QPalette::Highlight), Qt::black, 0.8), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(edge.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    // Without it the ring is lost on a face of its own colour or of red.
+    painter.setPen(Qt::white);
+    painter.drawRoundedRect(edge.adjusted(2, 2, -2, -2), kRadius - 1, kRadius - 1);
   }
 
   QColor Face() const {

@@ -1,8 +1,10 @@
 #include "window/frame_binder.h"
 
+#include <QAccessibleWidget>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
+#include <algorithm>
 
 #include "window/appearance.h"
 #include "window/shown.h"
@@ -43,6 +45,39 @@ class Panel : public QGroupBox {
   QColor text_;
 };
 
+// A panel behind another is shown as far as the toolkit can tell: what none of it is seen of is
+// not announced either.
+class SpokenPanel final : public QAccessibleWidget {
+ public:
+  explicit SpokenPanel(QWidget& panel) : QAccessibleWidget(&panel, QAccessible::Grouping) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (IsCovered()) state.invisible = 1;
+    return state;
+  }
+  int childCount() const override { return IsCovered() ? 0 : QAccessibleWidget::childCount(); }
+
+ private:
+  bool IsCovered() const {
+    const QList<QWidget*> inside = widget()->findChildren<QWidget*>();
+    return widget()->isVisible() &&
+           std::none_of(inside.begin(), inside.end(),
+                        [](const QWidget* child) { return child->isVisible() && IsSeen(*child); });
+  }
+  static bool IsSeen(const QWidget& child) {
+    const QWidget& window = *child.window();
+    const QPoint middle = child.mapTo(&window, child.rect().center());
+    const QWidget* const seen = window.childAt(middle);
+    return seen == &child || child.isAncestorOf(seen);
+  }
+};
+
+QAccessibleInterface* Speak(const QString& /*className*/, QObject* object) {
+  auto* const panel = dynamic_cast<Panel*>(object);
+  return panel != nullptr ? new SpokenPanel(*panel) : nullptr;
+}
+
 QGroupBox* NewPanel(const CatalogueRow& row, QWidget& container) {
   return new Panel(container, BackgroundOf(row), ToQColor(row.stored.foreColor));
 }
@@ -55,6 +90,7 @@ FrameBinder::FrameBinder(Frame& frame, QWidget& container, Actions& actions)
 FrameBinder::FrameBinder(Frame& frame, QGroupBox& box, Actions& actions)
     : WidgetBinder(frame, box, actions) {
   box.setTitle(ToQt(frame.Row().text));
+  QAccessible::installFactory(Speak);
 }
 
 LabelBinder::LabelBinder(Label& label, QWidget& container, Actions& actions)

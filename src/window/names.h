@@ -12,6 +12,10 @@ namespace quill {
 // The caption where the control has one, else words that say what it holds.
 QString SpokenName(const CatalogueRow& row);
 
+// What the control is for: its tool tip, or else a sentence. Panels are described by the note in
+// them, if there is one.
+QString SpokenDescription(const CatalogueRow& row);
+
 // Names of controls, panel by panel.
 std::span<const std::string_view> TabOrder();
 
