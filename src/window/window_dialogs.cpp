@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -86,11 +89,22 @@ QMessageBox::Icon IconOf(int buttons) {
   }
 }
 
+// Title bars cut a title that has no room beside their buttons, and are set in type of their own.
+int WidthOfTitle(const QString& title) {
+  constexpr int kIconAndButtons = 140;
+  QFont font = QFontDatabase::systemFont(QFontDatabase::TitleFont);
+  font.setBold(true);
+  return QFontMetrics(font).horizontalAdvance(title) + kIconAndButtons;
+}
+
 int Run(QMessageBox& box, int buttons, const QString& prompt, const QString& title) {
   box.setIcon(IconOf(buttons));
   box.setTextFormat(Qt::PlainText);
   box.setText(prompt);
   box.setWindowTitle(title);
+  // A box takes its size from what it contains and from nothing else.
+  auto& grid = dynamic_cast<QGridLayout&>(*box.layout());
+  grid.addItem(new QSpacerItem(WidthOfTitle(title), 0), grid.rowCount(), 0, 1, grid.columnCount());
   return box.exec();
 }
 
@@ -125,21 +139,29 @@ std::optional<std::u32string> WindowDialogs::ShowOpen(const std::u32string& titl
 std::optional<std::u32string> WindowDialogs::ShowSave(const std::u32string& title,
                                                       const std::u32string& filter,
                                                       const std::u32string& proposed) {
-  QFileInfo name(QDir(StartFolder()), PathToQt(proposed));
+  // Without a name the path would be the folder's own, and its folder the one above.
+  QString folder = StartFolder();
+  QString name;
+  if (!proposed.empty()) {
+    const QFileInfo file(QDir(folder), PathToQt(proposed));
+    folder = file.absolutePath();
+    name = file.fileName();
+  }
   for (;;) {
-    QFileDialog dialog(window_, ToQt(title), name.absolutePath());
+    QFileDialog dialog(window_, ToQt(title), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters(ToolkitFilters(filter));
     // The question comes below, when the extension is known.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.selectFile(name.fileName());
+    dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
       return std::nullopt;
     }
     const QString path = WithExtension(dialog.selectedFiles().front(), dialog.selectedNameFilter());
     if (MayWrite(path)) return PathFromQt(path);
-    name = QFileInfo(path);
+    folder = QFileInfo(path).absolutePath();
+    name = QFileInfo(path).fileName();
   }
 }
 

@@ -1,13 +1,22 @@
 // The dialogs of the real window, answered by keys.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
 
+#include "program/program.h"
 #include "support/fakes.h"
+#include "window/main_window.h"
 #include "window/window_dialogs.h"
 
 namespace quill::test {
@@ -66,6 +75,156 @@ TEST_F(MessageBoxTest, AYesNoQuestionHasNoOtherWayOut) {
                      QTimer::singleShot(0, &box, [&box] { box.button(QMessageBox::No)->click(); });
                    }),
             7);
+}
+
+TEST_F(MessageBoxTest, HasRoomForItsTitle) {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::TitleFont);
+  font.setBold(true);
+  QTimer::singleShot(0, &window, [&] {
+    QWidget* const box = QApplication::activeModalWidget();
+    ASSERT_NE(box, nullptr);
+    EXPECT_GT(box->width(), QFontMetrics(font).horizontalAdvance(box->windowTitle()) + 100);
+    QTest::keyClick(box, Qt::Key_Return);
+  });
+  dialogs.MsgBox(U"?", 0, U"A title that is longer than what the box is asked by");
+}
+
+// The program on its real dialogs.
+class DialogsTest : public testing::Test {
+ protected:
+  DialogsTest() {
+    dialogs.Attach(window, form);
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    disk.files["x.tbf"] = R"({\rtf1\ansi He came.\par})";
+    disk.files["x.tlf"] = "t_op(1\\ 4\\ 7\\ came\\ )\r\n";
+  }
+  void Choose(const char* menuItem) {
+    window.findChild<QAction*>(QString::fromLatin1(menuItem))->trigger();
+  }
+  // Called once for the dialog that opens next.
+  template <class Dialog>
+  void AtNext(std::function<void(Dialog&)> look) {
+    QTimer::singleShot(0, &window, [this, look = std::move(look)] {
+      auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog != nullptr) return look(*dialog);
+      ADD_FAILURE() << "another dialog, or none";
+    });
+  }
+  static void EnterPath(QFileDialog& dialog, const QString& path) {
+    dialog.findChild<QLineEdit*>()->setText(path);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  }
+
+  MemoryDisk disk;
+  WindowDialogs dialogs;
+  Program program{dialogs, disk};
+  Form1& form = program.Form();
+  MainWindow window{program};
+  QTemporaryDir folder;
+};
+
+TEST_F(DialogsTest, OpensATextGivenAtTheStartWithoutADialog) {
+  dialogs.ChooseNext("x.tbf");
+  Choose("mnuFileOpen");
+  EXPECT_EQ(form.RichTextBox1.Text(), U"He came.\n");
+  EXPECT_EQ(form.TagList.ListCount(), 1);
+  bool asked = false;
+  AtNext<QFileDialog>([&](QFileDialog& dialog) {
+    asked = true;
+    dialog.reject();
+  });
+  Choose("mnuFileOpen");
+  EXPECT_TRUE(asked) << "once only";
+}
+
+TEST_F(DialogsTest, AsksForATextAsGiven) {
+  AtNext<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Load existing *.tbf-file or new *.rtf-file for tagging");
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog.nameFilters(),
+              QStringList({"tbf-files (*.tbf)", "rtf-files (*.rtf)", "All files (*)"}));
+    EXPECT_EQ(dialog.directory(), QDir::current());
+    dialog.reject();
+  });
+  Choose("mnuFileOpen");
+  EXPECT_EQ(form.WorkState.TextBaseFile.Text(), U"");
+}
+
+TEST_F(DialogsTest, TheSaveDialogStartsBesideTheTextAndAsksBeforeItOverwrites) {
+  const auto in = [&](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
+  for (const char* const name : {"shown.tbf", "other.tbf"}) {
+    QFile file(in(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  disk.files[in("shown.tbf").toStdString()] = disk.files["x.tbf"];
+  dialogs.ChooseNext(in("shown.tbf"));
+  Choose("mnuFileOpen");
+  const auto save = [&](const char* name, std::function<void()> next = {}) {
+    AtNext<QFileDialog>([&, name, next](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder.path().toStdString());
+      if (next) next();
+      EnterPath(dialog, QString::fromLatin1(name));
+    });
+    return dialogs.ShowSave(U"Save", U"Tagged TextBaseFiles(*.tbf)|*.tbf", U"");
+  };
+  EXPECT_EQ(save("new"), in("new.tbf").toStdU32String()) << "with its extension";
+  EXPECT_EQ(save("shown.tbf"), in("shown.tbf").toStdU32String()) << "no question";
+  int questions = 0;
+  const auto answer = [&](QMessageBox::StandardButton button, std::function<void()> next = {}) {
+    return [&, button, next] {
+      QTimer::singleShot(50, &window, [&, button, next] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        ++questions;
+        EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+        if (next) next();
+        box->button(button)->click();
+      });
+    };
+  };
+  EXPECT_EQ(save("other", answer(QMessageBox::Yes)), in("other.tbf").toStdU32String());
+  const auto cancelNext = [&] {
+    QTimer::singleShot(50, &window, [] {
+      auto* const again = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(again, nullptr) << "a No leads back to the dialog";
+      again->reject();
+    });
+  };
+  EXPECT_EQ(save("other", answer(QMessageBox::No, cancelNext)), std::nullopt);
+  EXPECT_EQ(questions, 2);
+}
+
+TEST_F(DialogsTest, NoOtherActionReachesTheProgramWhileOneIsOpen) {
+  dialogs.ChooseNext("x.tbf");
+  Choose("mnuFileOpen");
+  form.TagList.ListIndex = 0;
+  form.RemoveItem.Enabled = true;
+  Choose("mnuPostProcess");
+  AtNext<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.windowTitle(), "Input required");
+    const std::u32string text = form.RichTextBox1.Text();
+    Choose("mnuPreProcess");
+    Choose("mnuFileClose");
+    window.close();
+    auto* const view = window.findChild<QTextEdit*>("RichTextBox1");
+    QTest::keyClicks(view, "x");
+    QMimeData dropped;
+    dropped.setText("dropped");
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, {});
+    QApplication::sendEvent(view->viewport(), &drop);
+    window.findChild<QPushButton*>("FindAMarker")->click();
+    EXPECT_EQ(form.RichTextBox1.Text(), text);
+    EXPECT_TRUE(form.PostFrame.Visible);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(program.Ended());
+    EXPECT_TRUE(box.isVisible());
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  window.findChild<QPushButton*>("RemoveItem")->click();
+  EXPECT_EQ(form.TagList.ListCount(), 0);
+  EXPECT_NE(disk.files["x.tlf"], "") << "a closed box is Cancel";
 }
 
 TEST(Question, StandsBesideTheTextOrElseBesideTheTerm) {
