@@ -34,6 +34,14 @@ bool HasDisplay() {
   return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
 }
 
+// Where no session bus runs, the toolkit's D-Bus library would start one as a child process.
+void StartNoSessionBus() {
+  if (IsSet("DBUS_SESSION_BUS_ADDRESS")) return;
+  const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (!folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"))) return;
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
 QIcon Icon() {
   QIcon icon;
   QSvgRenderer drawing(QStringLiteral(":/icon.svg"));
@@ -82,6 +90,7 @@ int main(int argc, char** argv) {
   }
   // A limit on the size of files makes a save fail, which is told, instead of ending the program.
   std::signal(SIGXFSZ, SIG_IGN);
+  StartNoSessionBus();
   QApplication application(argc, argv);
   // Numbers in files have a point whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");

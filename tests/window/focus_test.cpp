@@ -94,6 +94,35 @@ TEST_F(FocusTest, AHiddenControlLeavesTheFocusToNobody) {
   EXPECT_EQ(FocusName(), "") << "keys would do harm in a box that nobody chose";
 }
 
+TEST_F(FocusTest, TabFollowsThePanels) {
+  const auto expectRound = [&](const std::vector<std::string>& stops) {
+    Press("RichTextBox1");
+    for (const std::string& stop : stops) {
+      Key(Qt::Key_Tab);
+      EXPECT_EQ(FocusName(), stop);
+    }
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(FocusName(), "RichTextBox1") << "round";
+    for (auto stop = stops.rbegin(); stop != stops.rend(); ++stop) {
+      Key(Qt::Key_Backtab, Qt::ShiftModifier);
+      EXPECT_EQ(FocusName(), *stop) << "back";
+    }
+  };
+  expectRound({"DefAMarker", "AMarkReject", "AMarkedString", "add_to_dictionary", "Text2",
+               "A_type_add", "B_type_add", "DefBMarker", "BMarkReject", "BMarkedString",
+               "Add_global_parsing_list", "Add_specific_parsing_list", "Parse_cull",
+               "Deselect_Parse_Cull", "Clear_list", "Parse_listbox", "Parse_1", "Parse_2",
+               "Parse_3"});
+  Choose("mnuPostProcess");
+  Choose("mnuDialogue_off");
+  Choose("mnuDialogue_on");
+  form.RefFrame.Visible = true;
+  Choose("mnuUserID");
+  expectRound({"User_Dialogue", "FindAMarker", "FindBMarker", "Restart_PP", "marked_term", "ID",
+               "StartPosition", "EndPosition", "RefBox", "RefTagStart", "RefTagStop", "TagChecker",
+               "TaggedString", "TagList", "UserID1", "SessionID", "CloseIDFrame"});
+}
+
 TEST_F(FocusTest, TabStopsAtNothingThatIsCovered) {
   Choose("mnuPostProcess");
   OpenText("Once more.\\par");
