@@ -139,6 +139,13 @@ Caption LayCaption(const QFont& font, const QString& text, const QRect& face) {
   return {FittingFont(font, text, narrow.size()), narrow};
 }
 
+Caption LayTitle(QFont font, const QString& text, const QRect& panel) {
+  constexpr int kHeight = 15;
+  const QRect room(8, 1, panel.width() - 16, kHeight);
+  font.setBold(true);
+  return {FittingFont(font, text, room.size()), room};
+}
+
 void SetColours(QWidget& widget, const QColor& background, const QColor& text) {
   QPalette palette = widget.palette();
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {

@@ -50,6 +50,8 @@ struct Caption {
   QRect room;
 };
 Caption LayCaption(const QFont& font, const QString& text, const QRect& face);
+// How a panel's title is laid in its upper edge, in bold.
+Caption LayTitle(QFont font, const QString& text, const QRect& panel);
 
 // Writes a colour of one role for the enabled states, and a paler one for the disabled state.
 void SetColours(QWidget& widget, const QColor& background, const QColor& text);

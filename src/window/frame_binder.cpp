@@ -30,17 +30,14 @@ class Panel : public QGroupBox {
     painter.fillRect(rect(), background_);
     painter.setPen(background_.darker(118));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    QFont caption = font();
-    caption.setBold(true);
+    const QString text = title().simplified();
+    const Caption laid = LayTitle(font(), text, rect());
     painter.setPen(isEnabled() ? text_ : palette().color(QPalette::Disabled, QPalette::WindowText));
-    const QRect room(8, 1, width() - 16, kCaptionHeight);
-    painter.setFont(FittingFont(caption, title().simplified(), room.size()));
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, title().simplified());
+    painter.setFont(laid.font);
+    painter.drawText(laid.room, Qt::AlignLeft | Qt::AlignVCenter, text);
   }
 
  private:
-  static constexpr int kCaptionHeight = 15;
-
   QColor background_;
   QColor text_;
 };
