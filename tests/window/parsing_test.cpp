@@ -128,7 +128,6 @@ TEST_F(ParsingTest, AHitThatIsSelectedAlreadyIsScrolledBack) {
 TEST_F(ParsingTest, PanelsOverTheTextDoNotHideAHit) {
   for (const int lines : {6, 12, 60}) {
     SCOPED_TRACE(lines);
-    Press("Clear_list");
     OpenStory(lines);
     form.IDFrame.Visible = true;
     int asked = 0;
@@ -141,6 +140,7 @@ TEST_F(ParsingTest, PanelsOverTheTextDoNotHideAHit) {
     ClickRow("Parse_listbox", 0);
     Press("Parse_3");
     EXPECT_EQ(asked, 2);
+    Press("Clear_list");
   }
 }
 

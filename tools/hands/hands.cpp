@@ -6,8 +6,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
+#include <functional>
 
 namespace quill {
 namespace {
@@ -41,6 +43,21 @@ QModelIndex Row(const QAbstractItemView& view, const std::string& name, int row)
 void ClickIn(QWidget& menu, const QRect& item) {
   QTest::mouseMove(&menu, item.center());
   QTest::mouseClick(&menu, Qt::LeftButton, {}, item.center());
+}
+
+// One notch after the other, until the place, in pixels of the viewport, is seen.
+void Wheel(QAbstractScrollArea& area, const std::function<QRect()>& place) {
+  QWidget& viewport = *area.viewport();
+  const QPoint middle = viewport.rect().center();
+  while (!viewport.rect().contains(place())) {
+    const int before = area.verticalScrollBar()->value();
+    QWheelEvent turn(middle, viewport.mapToGlobal(middle), {}, {0, place().top() < 0 ? 120 : -120},
+                     Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&viewport, &turn);
+    if (area.verticalScrollBar()->value() == before) {
+      throw HandsFailed("the wheel over " + NameOf(area) + " does not reach the place");
+    }
+  }
 }
 
 }  // namespace
@@ -119,6 +136,16 @@ void Hands::ClickRow(const char* list, int row) {
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
 }
 
+void Hands::WheelToRow(const char* list, int row) {
+  auto& view = As<QAbstractItemView>(Widget(list));
+  const QModelIndex index = Row(view, list, row);
+  // A row may be wider than the list.
+  Wheel(view, [&] {
+    const QRect line = view.visualRect(index);
+    return QRect(0, line.top(), 1, line.height());
+  });
+}
+
 // --- The keyboard ----------------------------------------------------------------------------
 
 void Hands::Keys(const char* text) {
@@ -162,20 +189,9 @@ void Hands::DragOver(Position begin, Position end) {
 }
 
 void Hands::WheelTo(Position at) {
-  QWidget& viewport = *View().viewport();
   QTextCursor cursor(View().document());
   cursor.setPosition(static_cast<int>(at));
-  const QPoint middle = viewport.rect().center();
-  const int most = View().document()->blockCount() * 1000;
-  for (int turns = 0; turns < most; ++turns) {
-    const QRect place = View().cursorRect(cursor);
-    if (viewport.rect().contains(place)) return;
-    const int notch = place.top() < 0 ? 120 : -120;
-    QWheelEvent turn(middle, viewport.mapToGlobal(middle), {}, {0, notch}, Qt::NoButton, {},
-                     Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&viewport, &turn);
-  }
-  throw HandsFailed("the wheel does not reach position " + std::to_string(at));
+  Wheel(View(), [&] { return View().cursorRect(cursor); });
 }
 
 }  // namespace quill

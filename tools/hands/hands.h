@@ -35,7 +35,8 @@ class Hands {
   // Rows count from 0.
   void PickRow(const char* combo, int row);       // from the list that drops down
   void Pick(const char* combo, const char* row);  // the row of that text, blanks at its end apart
-  void ClickRow(const char* list, int row);
+  void ClickRow(const char* list, int row);       // it must be in sight
+  void WheelToRow(const char* list, int row);     // until it is in sight
 
   void Keys(const char* text);  // to whatever has the focus
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});

@@ -1,0 +1,62 @@
+#include "hands/dialog_hands.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "hands/hands.h"
+
+namespace quill {
+
+DialogHands::DialogHands() {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { UseTopmost(); });
+  timer_.start(5);
+}
+
+void DialogHands::UseTopmost() {
+  auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !dialog->isVisible()) return;
+  // An exception must not go through the dialog's event loop.
+  try {
+    if (waiting_.empty()) {
+      throw HandsFailed("nobody expected the dialog " + dialog->windowTitle().toStdString());
+    }
+    const Use use = std::move(waiting_.front());
+    waiting_.pop_front();
+    use(*dialog);
+    if (dialog->isVisible()) {
+      throw HandsFailed("the dialog " + dialog->windowTitle().toStdString() + " stayed open");
+    }
+  } catch (...) {
+    if (!failure_) failure_ = std::current_exception();
+    dialog->done(QDialog::Rejected);
+  }
+}
+
+void DialogHands::Finish() {
+  if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
+  if (waiting_.empty()) return;
+  const std::size_t missing = waiting_.size();
+  waiting_.clear();
+  throw HandsFailed(std::to_string(missing) + " dialogs too few opened");
+}
+
+void DialogHands::TypePath(QDialog& fileDialog, const QString& path) {
+  auto* const line = fileDialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (line == nullptr) throw HandsFailed("a file dialog that cannot be typed into");
+  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(line, path);
+  QTest::keyClick(line, Qt::Key_Return);
+}
+
+void DialogHands::Press(QDialog& messageBox, QMessageBox::StandardButton button) {
+  auto* const box = qobject_cast<QMessageBox*>(&messageBox);
+  QAbstractButton* const pressed = box != nullptr ? box->button(button) : nullptr;
+  if (pressed == nullptr) {
+    throw HandsFailed("no such button: " + messageBox.windowTitle().toStdString());
+  }
+  QTest::mouseClick(pressed, Qt::LeftButton);
+}
+
+}  // namespace quill

@@ -1,0 +1,39 @@
+// A user's hands on the dialogs that open over the window while an action of theirs still runs.
+#pragma once
+
+#include <QDialog>
+#include <QMessageBox>
+#include <QTimer>
+#include <deque>
+#include <exception>
+#include <functional>
+
+namespace quill {
+
+// Uses whatever dialog opens, as long as it lives. A dialog that nobody waits for, and one whose
+// use fails, is closed as if refused.
+class DialogHands {
+ public:
+  // Looks at the dialog and closes it, by mouse or keys.
+  using Use = std::function<void(QDialog&)>;
+
+  DialogHands();
+
+  // What to do with the dialogs to come, one each, in this order.
+  void AtNext(Use use) { waiting_.push_back(std::move(use)); }
+  // Throws HandsFailed where a dialog could not be used, none was waited for, or one did not come.
+  void Finish();
+
+  // Types a path into a dialog of the toolkit's own and presses Enter.
+  static void TypePath(QDialog& fileDialog, const QString& path);
+  static void Press(QDialog& messageBox, QMessageBox::StandardButton button);
+
+ private:
+  void UseTopmost();
+
+  QTimer timer_;
+  std::deque<Use> waiting_;
+  std::exception_ptr failure_;
+};
+
+}  // namespace quill

@@ -1,0 +1,55 @@
+// tour [FOLDER]: plays the tour and leaves a picture of each main step in the folder, or in a new
+// one whose name it prints.
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <stdexcept>
+
+#include "tour/tour.h"
+#include "window/appearance.h"
+#include "window/shown.h"
+
+namespace {
+
+void CopyExample(const QString& folder, const QString& name) {
+  if (!QFile::copy(QStringLiteral(QUILL_EXAMPLES "/") + name, folder + QLatin1Char('/') + name)) {
+    throw std::runtime_error("cannot copy " + name.toStdString());
+  }
+}
+
+// The folder that is asked for, or a new one that stays.
+QString PictureFolder(const QStringList& arguments) {
+  if (arguments.size() > 1) return QDir(arguments[1]).absolutePath();
+  QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/quillorandix-tour-XXXXXX"));
+  if (!folder.isValid()) throw std::runtime_error("cannot make a folder for the pictures");
+  folder.setAutoRemove(false);
+  return folder.path();
+}
+
+void PlayTour(const QStringList& arguments) {
+  const QString pictures = PictureFolder(arguments);
+  const QTemporaryDir desk;
+  CopyExample(desk.path(), QStringLiteral("the-ferry.rtf"));
+  CopyExample(desk.path(), QStringLiteral("globaldict.gdf"));
+  if (!QDir::setCurrent(desk.path())) throw std::runtime_error("no folder to work in");
+  quill::tour::Album album(pictures);
+  quill::tour::Tour(desk.path(), album).Play();
+  std::printf("%s\n", pictures.toLocal8Bit().constData());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Dialogs of the desktop's own can't be typed into.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QApplication application(argc, argv);
+  quill::SetLook(application);
+  try {
+    PlayTour(QApplication::arguments());
+    return 0;
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "tour: %s\n", failure.what());
+    return 1;
+  }
+}
