@@ -42,11 +42,11 @@ void DialogHands::Finish() {
   throw HandsFailed(std::to_string(missing) + " dialogs too few opened");
 }
 
-void DialogHands::TypePath(QDialog& fileDialog, const QString& path) {
+void DialogHands::TypeName(QDialog& fileDialog, const char* name) {
   auto* const line = fileDialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   if (line == nullptr) throw HandsFailed("a file dialog that cannot be typed into");
   QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClicks(line, path);
+  QTest::keyClicks(line, QString::fromUtf8(name));
   QTest::keyClick(line, Qt::Key_Return);
 }
 

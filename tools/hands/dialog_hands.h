@@ -24,8 +24,8 @@ class DialogHands {
   // Throws HandsFailed where a dialog could not be used, none was waited for, or one did not come.
   void Finish();
 
-  // Types a path into a dialog of the toolkit's own and presses Enter.
-  static void TypePath(QDialog& fileDialog, const QString& path);
+  // Types the name of a file of the folder on show into a dialog of the toolkit's own, and Enter.
+  static void TypeName(QDialog& fileDialog, const char* name);
   static void Press(QDialog& messageBox, QMessageBox::StandardButton button);
 
  private:

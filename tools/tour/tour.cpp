@@ -21,8 +21,7 @@ Tour::Tour(const QString& folder, Album& album)
     : Hands(ShownProgram::window), folder_(folder), album_(album) {
   dialogs.Attach(window, form);
   window.show();
-  window.activateWindow();
-  Expect(QTest::qWaitForWindowActive(&window), "the window comes to the front");
+  ComeToFront();
 }
 
 void Tour::Play() {
@@ -59,20 +58,18 @@ const std::vector<std::u32string>& Tour::Tags() {
 // --- The steps -------------------------------------------------------------------------------
 
 void Tour::Begin() {
+  Choose("mnuDialogue_on");
   Replace("UserID1", "reader A");
   Replace("SessionID", "first reading");
   Picture("started");
   Press("CloseIDFrame");
-  dialogHands_.AtNext([&](QDialog& dialog) {
-    DialogHands::TypePath(dialog, folder_ + QStringLiteral("/the-ferry.rtf"));
-  });
-  dialogHands_.AtNext([&](QDialog& dialog) {
-    DialogHands::TypePath(dialog, folder_ + QStringLiteral("/the-ferry.tbf"));
-  });
+  dialogHands_.AtNext([](QDialog& dialog) { DialogHands::TypeName(dialog, "the-ferry.rtf"); });
+  dialogHands_.AtNext([](QDialog& dialog) { DialogHands::TypeName(dialog, "the-ferry.tbf"); });
   Choose("mnuFileOpen");
-  dialogHands_.Finish();
+  FinishDialogs();
   Expect(form.PreFrame.Visible, "the first mode is on after an opening");
   Picture("opened");
+  Choose("mnuDialogue_off");
 }
 
 void Tour::MarkByHand() {
@@ -103,25 +100,24 @@ void Tour::UseDictionaries() {
 
 void Tour::SearchAndConfirm() {
   ChooseTerm("now");
-  // "know", "Now", "known", "now", "know".
-  for (const bool operation : {false, true, false, true, false}) {
-    dialogHands_.AtNext([this, operation](QDialog& box) {
-      if (operation && !At("Now").bold) Picture("question", &box);
-      DialogHands::Press(box, operation ? QMessageBox::Yes : QMessageBox::No);
+  for (const char* const hit : {"know", "Now", "known", "now", "know"}) {
+    const bool isOperator = std::string_view(hit).size() == 3;
+    dialogHands_.AtNext([=, this](QDialog& box) {
+      if (std::string_view(hit) == "Now") Picture("question", &box);
+      DialogHands::Press(box, isOperator ? QMessageBox::Yes : QMessageBox::No);
     });
   }
   Press("Parse_3");
-  dialogHands_.Finish();
-  Choose("mnuDialogue_on");
-  Picture("guidance");
+  FinishDialogs();
 }
 
 void Tour::BeginSecondMode() {
   Choose("mnuPostProcess");
-  Choose("mnuDialogue_off");
+  Choose("mnuDialogue_on");
   Press("FindBMarker");
   ExpectFound("3 October 1911");
-  Picture("second-mode");
+  Picture("found");
+  Choose("mnuDialogue_off");
 }
 
 void Tour::TagDate() {
@@ -181,7 +177,7 @@ void Tour::Remove() {
     DialogHands::Press(box, QMessageBox::Ok);
   });
   Press("RemoveItem");
-  dialogHands_.Finish();
+  FinishDialogs();
   Expect(At("until") == Attributes(), "a term without a tag is plain again");
   Picture("removed");
 }
@@ -189,7 +185,7 @@ void Tour::Remove() {
 void Tour::Save() {
   dialogHands_.AtNext([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
   Choose("mnuFileSave");
-  dialogHands_.Finish();
+  FinishDialogs();
 }
 
 // --- What came of it -------------------------------------------------------------------------
@@ -227,6 +223,17 @@ void Tour::Check() const {
 // --- Hands -----------------------------------------------------------------------------------
 
 void Tour::Picture(const char* name, QDialog* dialog) { album_.Take(window, name, dialog); }
+
+void Tour::ComeToFront() {
+  window.activateWindow();
+  Expect(QTest::qWaitForWindowActive(&window), "the window comes to the front");
+}
+
+void Tour::FinishDialogs() {
+  dialogHands_.Finish();
+  // Without a window manager nobody gives the window back its keys.
+  ComeToFront();
+}
 
 void Tour::Mark(const char* term, const char* define, const char* set) {
   const Position begin = Find(term);

@@ -49,6 +49,8 @@ class Tour : private ShownProgram, private Hands {
   void Save();
   void Check() const;
 
+  void ComeToFront();
+  void FinishDialogs();
   void Picture(const char* name, QDialog* dialog = nullptr);
   void Mark(const char* term, const char* define, const char* set);
   void ChooseTerm(const char* lemma);
