@@ -2,6 +2,7 @@
 // one whose name it prints.
 #include <QApplication>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <stdexcept>
@@ -35,16 +36,25 @@ void PlayTour(const QStringList& arguments) {
   if (!QDir::setCurrent(desk.path())) throw std::runtime_error("no folder to work in");
   quill::tour::Album album(pictures);
   quill::tour::Tour(desk.path(), album).Play();
-  std::printf("%s\n", pictures.toLocal8Bit().constData());
+  std::printf("The pictures are in %s. The tag list:\n", pictures.toLocal8Bit().constData());
+  for (const std::u32string& tag : quill::tour::Tour::Tags()) {
+    std::printf("%s\n", quill::ToQt(tag).toUtf8().constData());
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  // The offscreen platform complains of every window that is raised.
+  if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+  }
   // Dialogs of the desktop's own can't be typed into.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   quill::SetLook(application);
+  // A list that dropped down is clicked at once.
+  QApplication::setDoubleClickInterval(1);
   try {
     PlayTour(QApplication::arguments());
     return 0;

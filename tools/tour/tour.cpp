@@ -45,7 +45,7 @@ const std::vector<std::u32string>& Tour::Tags() {
       U"absolute \\ at\\ d \\ 1911-10-03\\ Reference Tag\\  \\   )",
       U"t_op(2\\ 394\\ 410\\ nine years before\\ first reading\\ reader A\\ lexematic\\ "
       U"b_operator\\ relative\\ before\\ year \\ 9\\ 3 October 1911\\ 37\\ 50 )",
-      U"t_op(4\\ 366\\ 372\\ had sat\\ first reading\\ reader A\\ grammatic\\ a_operator\\ "
+      U"t_op(4\\ 368\\ 374\\ had sat\\ first reading\\ reader A\\ grammatic\\ a_operator\\ "
       U"relative\\ before\\ vague\\ pluperfect\\ 3 October 1911\\ 37\\ 50 )",
       U"t_op(5\\ 586\\ 592\\ tonight\\ first reading\\ reader A\\ lexematic\\ a_operator\\ "
       U"relative\\ while\\ d \\ the evening of the question\\ nine years before\\ 394\\ 410 )",
@@ -179,6 +179,8 @@ void Tour::Remove() {
   Press("RemoveItem");
   FinishDialogs();
   Expect(At("until") == Attributes(), "a term without a tag is plain again");
+  Press("FindBMarker");
+  ExpectFound("Until");
   Picture("removed");
 }
 
