@@ -78,7 +78,7 @@ TEST_F(FocusTest, NothingButAUsersMoveWipesABox) {
   for (const char* const name : {"add_to_dictionary", "Text2"}) {
     auto& box = dynamic_cast<TextBox&>(*form.Find(name));
     for (const auto& [what, happens] : happenings) {
-      window.activateWindow();
+      QApplication::setActiveWindow(&window);
       Press(name);
       box.Text = U"kept";
       Choose(form.mnuDialogue_off.Enabled ? "mnuDialogue_off" : "mnuDialogue_on");
