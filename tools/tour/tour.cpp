@@ -76,9 +76,7 @@ void Tour::MarkByHand() {
   Mark("3 October 1911", "DefBMarker", "BMarkSet");
   Mark("had sat", "DefAMarker", "AMarkSet");
   Mark("nine years before", "DefBMarker", "BMarkSet");
-  const Position tonight = Find("tonight");
-  DragOver(tonight, tonight + 7);
-  Press("DefAMarker");
+  Define("tonight", "DefAMarker");
   Picture("defined");
   Press("AMarkSet");
   Picture("marked");
@@ -237,10 +235,15 @@ void Tour::FinishDialogs() {
   ComeToFront();
 }
 
-void Tour::Mark(const char* term, const char* define, const char* set) {
+void Tour::Define(const char* term, const char* define) {
   const Position begin = Find(term);
+  WheelTo(begin);
   DragOver(begin, begin + static_cast<Position>(Utf32(term).size()));
   Press(define);
+}
+
+void Tour::Mark(const char* term, const char* define, const char* set) {
+  Define(term, define);
   Press(set);
   Expect(At(term).bold, std::string(term) + " is marked");
 }

@@ -52,6 +52,7 @@ class Tour : private ShownProgram, private Hands {
   void ComeToFront();
   void FinishDialogs();
   void Picture(const char* name, QDialog* dialog = nullptr);
+  void Define(const char* term, const char* define);
   void Mark(const char* term, const char* define, const char* set);
   void ChooseTerm(const char* lemma);
   void Describe(const char* tagClass, const char* op, const char* mode, const char* type,
