@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <stdexcept>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace quill::tour {
 namespace {
@@ -21,22 +19,29 @@ void DrawOver(QPixmap& picture, const QWidget& window, QWidget& dialog) {
   painter.drawRect(QRect(place, dialog.size()).adjusted(-1, -1, 0, 0));
 }
 
-// The 256 colours that it has most of: a window has few, but for the edges of its letters, and a
-// third of the bytes will do.
-QImage Reduced(const QImage& picture) {
-  std::unordered_map<QRgb, int> counts;
+// Colours that nobody tells apart become the one of them that there is most of: the colours of the
+// marks stay what they are, the edges of letters have fewer shades, and half of the bytes will do.
+QImage Reduced(QImage picture) {
+  const auto group = [](QRgb colour) { return colour & 0xFFF0F0F0U; };
+  std::unordered_map<QRgb, std::unordered_map<QRgb, int>> groups;
   for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+    for (int x = 0; x < picture.width(); ++x) {
+      const QRgb colour = picture.pixel(x, y);
+      ++groups[group(colour)][colour];
+    }
   }
-  std::vector<std::pair<int, QRgb>> colours;
-  for (const auto& [colour, count] : counts) colours.emplace_back(count, colour);
-  std::sort(colours.rbegin(), colours.rend());
-  QList<QRgb> table;
-  for (const auto& [count, colour] : colours) {
-    if (table.size() < 256) table += colour;
+  std::unordered_map<QRgb, QRgb> most;
+  for (const auto& [of, counts] : groups) {
+    most[of] = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
+                 return a.second < b.second;
+               })->first;
   }
-  return picture.convertToFormat(QImage::Format_Indexed8, table,
-                                 Qt::ThresholdDither | Qt::AvoidDither);
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      picture.setPixel(x, y, most[group(picture.pixel(x, y))]);
+    }
+  }
+  return picture;
 }
 
 }  // namespace
