@@ -37,22 +37,23 @@ TEST(Decoration, Labels) {
       EXPECT_EQ(document.Length(), 2) << test.body;
       continue;
     }
-    EXPECT_EQ(LabelOf(document, 2), test.label) << test.body;
+    EXPECT_EQ(LabelOf(document, 2).text, test.label) << test.body;
     EXPECT_EQ(LabelLength(document, 2), test.length) << test.body;
   }
-  EXPECT_EQ(LabelOf(Load(R"({\listtext 1.}a\par b)"), 0), U"1.");
-  EXPECT_EQ(LabelOf(Load("{\\listtext " + std::string(100, 'x') + "}a"), 0).size(), 32U);
-  EXPECT_EQ(LabelOf(*Read(R"({\rtf1\ansi {\listtext a)\tab}b})"), 0), U"a)")
+  EXPECT_EQ(LabelOf(Load(R"({\listtext 1.}a\par b)"), 0).text, U"1.");
+  EXPECT_EQ(LabelOf(Load(R"({\listtext\pard\plain \f1\'b7\tab}a)"), 0).font, "Symbol");
+  EXPECT_EQ(LabelOf(Load("{\\listtext " + std::string(100, 'x') + "}a"), 0).text.size(), 32U);
+  EXPECT_EQ(LabelOf(*Read(R"({\rtf1\ansi {\listtext a)\tab}b})"), 0).text, U"a)")
       << "without a colour table";
 }
 
 TEST(Decoration, ALabelStaysWithItsParagraph) {
   Document document = Load(R"(a\par{\listtext 1.\tab}b\par c)");
   document.Type({2, 2}, U"x", {});
-  EXPECT_EQ(LabelOf(document, 2), U"1.");
+  EXPECT_EQ(LabelOf(document, 2).text, U"1.");
   document.Type({3, 3}, U"\n", {});
-  EXPECT_EQ(LabelOf(document, 4), U"") << "of the paragraph that was split off";
-  EXPECT_EQ(LabelOf(*Read("plain"), 0), U"");
+  EXPECT_EQ(LabelOf(document, 4).text, U"") << "of the paragraph that was split off";
+  EXPECT_EQ(LabelOf(*Read("plain"), 0).text, U"");
 }
 
 TEST(Decoration, CellEdges) {

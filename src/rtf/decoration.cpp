@@ -76,17 +76,18 @@ int LabelLength(const Document& document, Position paragraph) {
   return static_cast<int>(std::min(length, kMostLabel));
 }
 
-std::u32string LabelOf(const Document& document, Position paragraph) {
+Label LabelOf(const Document& document, Position paragraph) {
   const std::string_view group = LabelIn(InFrontOf(document, paragraph));
   if (group.empty()) return {};
   const auto read = Read(LabelFile(document, UpToClose(group)));
   if (!read) return {};
   constexpr std::u32string_view kBlanks = U" \t\n\u00A0\u2028";
-  std::u32string label = read->Text();
-  label.erase(0, label.find_first_not_of(kBlanks));
-  label.erase(label.find_last_not_of(kBlanks) + 1);
-  label.resize(std::min(label.size(), kMostLabel));
-  return label;
+  const std::u32string& text = read->Text();
+  const std::size_t begin = text.find_first_not_of(kBlanks);
+  if (begin == std::u32string::npos) return {};
+  const std::size_t end = text.find_last_not_of(kBlanks) + 1;
+  const std::uint16_t font = read->FormatAt(static_cast<Position>(begin)).look.font;
+  return {text.substr(begin, std::min(end - begin, kMostLabel)), read->Fonts()[font].name};
 }
 
 std::vector<Twips> CellEdges(const Document& document, Position paragraph) {

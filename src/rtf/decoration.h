@@ -14,9 +14,13 @@ namespace quill::rtf {
 // About how many characters long the bullet or number is that the file gives the paragraph; 0
 // where there is none.
 int LabelLength(const Document& document, Position paragraph);
-// The bullet or number itself, without blanks around it, at most 32 characters. It reads the tables
-// of the file anew, which takes a thousand times longer.
-std::u32string LabelOf(const Document& document, Position paragraph);
+
+struct Label {
+  std::u32string text;  // without blanks around it, at most 32 characters
+  std::string font;     // the typeface of its first character
+};
+// It reads the tables of the file anew, which takes a thousand times longer.
+Label LabelOf(const Document& document, Position paragraph);
 
 // The right edges of a table row's cells, counted from the text's left margin, as far as they are
 // told in front of that paragraph, at most 64. Empty where none are: then those of the row before

@@ -119,7 +119,8 @@ std::u32string_view DocumentBinder::Part(Range range) const {
 
 void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
   for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
-    const std::u32string shown = ShownInText(Part(piece.range));
+    const FontFace& face = text_.Doc().Fonts()[text_.Doc().Formats()[piece.format].look.font];
+    const std::u32string shown = ShownInText(Part(piece.range), face.name);
     const QTextCharFormat style = styles_.Character(piece.format);
     std::size_t line = 0;
     for (;;) {

@@ -9,6 +9,7 @@
 
 #include "rtf/decoration.h"
 #include "window/shown.h"
+#include "window/symbols.h"
 
 namespace quill {
 namespace {
@@ -154,7 +155,11 @@ const QString& ParagraphDecoration::LabelOf(const QTextBlock& block) {
   const Position at = positions_.ToModel(block.position());
   const Offset place = document_.Origins()[static_cast<std::size_t>(at)].begin;
   const auto [entry, isNew] = labels_.try_emplace(place);
-  if (isNew) entry->second = ToQt(rtf::LabelOf(document_, at));
+  if (isNew) {
+    rtf::Label label = rtf::LabelOf(document_, at);
+    for (char32_t& c : label.text) c = ShownSymbol(c, label.font);
+    entry->second = ToQt(label.text);
+  }
   return entry->second;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "text/unicode.h"
+#include "window/symbols.h"
 
 namespace quill {
 namespace {
@@ -65,10 +66,11 @@ std::u32string ShownText(std::u32string_view text) {
   return shown;
 }
 
-std::u32string ShownInText(std::u32string_view text) {
+std::u32string ShownInText(std::u32string_view text, std::string_view font) {
   std::u32string shown(text);
-  std::transform(shown.begin(), shown.end(), shown.begin(),
-                 [](char32_t c) { return c == kObject ? c : ShownCharacter(c); });
+  std::transform(shown.begin(), shown.end(), shown.begin(), [&](char32_t c) {
+    return c == kObject ? c : ShownSymbol(ShownCharacter(c), font);
+  });
   return shown;
 }
 

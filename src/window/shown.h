@@ -19,8 +19,9 @@ std::u32string FromQt(const QString& text);
 char32_t ShownCharacter(char32_t character);
 // Character by character, so that positions stay.
 std::u32string ShownText(std::u32string_view text);
-// The same where pictures are drawn: the character that stands for one stays.
-std::u32string ShownInText(std::u32string_view text);
+// The same where pictures are drawn (the character that stands for one stays) and in a typeface,
+// which may be one of symbols.
+std::u32string ShownInText(std::u32string_view text, std::string_view font);
 
 // All characters of a document as they are, paragraph ends as U+000A. (Its plain text is no way to
 // them: there a no-break space comes back as a blank.)

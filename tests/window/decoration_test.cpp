@@ -6,6 +6,7 @@
 
 #include "shown_window.h"
 #include "user.h"
+#include "window/shown.h"
 
 namespace quill::test {
 namespace {
@@ -73,6 +74,20 @@ TEST_F(DecorationTest, CellsStandUnderEachOther) {
   }
   EXPECT_EQ(lines, 1);
   ExpectShown(window, form);
+}
+
+TEST_F(DecorationTest, SymbolsAreShownByTheCharactersThatLookLikeThem) {
+  disk.files["y.tbf"] = R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fcharset2 Symbol;})"
+                        R"({\f2\fcharset2 Wingdings;}{\f3\fcharset2 Webdings;}})"
+                        R"(\f1 ab\'b7\f2\'fc\'4a\'24\f3 a\f0 a\u-3913?})";
+  Press("CloseIDFrame");
+  dialogs.answers = {std::u32string(U"y.tbf")};
+  Choose("mnuFileOpen");
+  EXPECT_EQ(form.RichTextBox1.Text(), U"\uF061\uF062\uF0B7\uF0FC\uF04A\uF024\uF061a\uF0B7");
+  EXPECT_EQ(RawText(*View().document()), U"\u03B1\u03B2\u2022\u2713\u263A\uF024\uF061a\uF0B7");
+  ExpectShown(window, form);
+  DragOver(0, 3);
+  EXPECT_EQ(form.RichTextBox1.SelText(), U"\uF061\uF062\uF0B7");
 }
 
 }  // namespace

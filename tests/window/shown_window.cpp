@@ -111,7 +111,12 @@ std::vector<std::pair<char32_t, Attributes>> ShownAttributes(const QTextDocument
 
 void ExpectText(QMainWindow& window, const TextSurface& text) {
   auto& view = Find<QTextEdit>(window, text);
-  EXPECT_EQ(RawText(*view.document()), ShownInText(text.Text()));
+  std::u32string expectedText;
+  for (Position i = 0; i < text.Length(); ++i) {
+    const FontFace& face = text.Doc().Fonts()[text.Doc().FormatAt(i).look.font];
+    expectedText += ShownInText(text.Text().substr(static_cast<std::size_t>(i), 1), face.name);
+  }
+  EXPECT_EQ(RawText(*view.document()), expectedText);
   const auto shown = ShownAttributes(*view.document());
   std::size_t at = 0;
   for (Position i = 0; i < text.Length() && !testing::Test::HasFailure(); ++i) {
