@@ -18,7 +18,7 @@ set(CPACK_PACKAGE_CONTACT "the Quillorandix authors <quillorandix@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "mark and tag how narrative texts express time")
 set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS 
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "fonts-dejavu-core, fonts-liberation, fonts-symbola, fonts-wqy-microhei, qt6-wayland")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 include(CPack)

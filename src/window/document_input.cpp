@@ -41,6 +41,10 @@ void DocumentView::contextMenuEvent(QContextMenuEvent* event) {
   add("&Delete", QKeySequence::UnknownKey, selected, &DocumentView::DeleteSelection);
   menu->addSeparator();
   add("Select &all", QKeySequence::SelectAll, text_.Length() > 0, &DocumentView::SelectEverything);
+  menu->addSeparator();
+  add("Zoom &in", QKeySequence::ZoomIn, zoom_.Percent() < Zoom::kMost, [this] { ZoomBy(1); });
+  add("Zoom &out", QKeySequence::ZoomOut, zoom_.Percent() > Zoom::kLeast, [this] { ZoomBy(-1); });
+  add("&Normal size", QKeySequence::UnknownKey, zoom_.Percent() != 100, [this] { ZoomBack(); });
   menu->popup(event->globalPos());
 }
 

@@ -1,12 +1,15 @@
-// How the text is painted: under the highlight, with its caret, and with what stands around it.
+// How the text is shown: under the highlight, with its caret, with what stands around it, and how
+// large.
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleHints>
 #include <QTextBlock>
+#include <QToolTip>
 
 #include "window/document_view.h"
+#include "window/mark_names.h"
 
 namespace quill {
 namespace {
@@ -72,6 +75,76 @@ void DocumentView::focusInEvent(QFocusEvent* event) {
 void DocumentView::focusOutEvent(QFocusEvent* event) {
   QTextEdit::focusOutEvent(event);
   RestartCaret();
+}
+
+// --- Marks in words --------------------------------------------------------------------------
+
+bool DocumentView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && ShowMarkName(static_cast<QHelpEvent&>(*event))) {
+    return true;
+  }
+  return QTextEdit::viewportEvent(event);
+}
+
+bool DocumentView::ShowMarkName(const QHelpEvent& event) {
+  const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  const int at =
+      document()->documentLayout()->hitTest(QPointF(event.pos() + scrolled), Qt::ExactHit);
+  const Position position = at < 0 ? text_.Length() : positions_.ToModel(at);
+  if (position >= text_.Length()) return false;
+  const QString name = MarkName(text_.Doc().At(position));
+  if (name.isEmpty()) return false;
+  QToolTip::showText(event.globalPos(), name, viewport());
+  return true;
+}
+
+// --- Zoom ------------------------------------------------------------------------------------
+
+void DocumentView::ZoomBy(int steps) {
+  if (zoom_.Step(steps)) ShowZoom();
+}
+
+void DocumentView::ZoomBack() {
+  if (zoom_.Reset()) ShowZoom();
+}
+
+void DocumentView::ShowZoom() {
+  const Place place = TopLine();
+  zoom_.ApplyTo(*document());
+  Restore(place);
+  updateMicroFocus();
+}
+
+void DocumentView::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+    QTextEdit::wheelEvent(event);
+    return;
+  }
+  wheel_ += event->angleDelta().y();
+  const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_ %= QWheelEvent::DefaultDeltasPerStep;
+  ZoomBy(steps);
+  event->accept();
+}
+
+bool DocumentView::ZoomKey(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers others =
+      event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+  if (others != Qt::ControlModifier) return false;
+  switch (event.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      ZoomBy(1);
+      return true;
+    case Qt::Key_Minus:
+      ZoomBy(-1);
+      return true;
+    case Qt::Key_0:
+      ZoomBack();
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace quill

@@ -70,6 +70,7 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   document->setParent(this);
   pictures_.Serve(*document);
   decoration_.Clear();
+  zoom_.ApplyTo(*document);
   setDocument(document.release());
   preeditCaret_ = -1;
   caretIsNoted_ = false;
@@ -225,22 +226,13 @@ void DocumentView::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-void DocumentView::wheelEvent(QWheelEvent* event) {
-  // The toolkit's zoom would change the fonts that the text was given.
-  if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    event->ignore();
-  } else {
-    QTextEdit::wheelEvent(event);
-  }
-}
-
 // --- Editing ---------------------------------------------------------------------------------
 
 void DocumentView::keyPressEvent(QKeyEvent* event) {
   if (IsMovement(event)) {
     QTextEdit::keyPressEvent(event);
     ReportSelection();
-  } else if (EditKey(event)) {
+  } else if (EditKey(event) || ZoomKey(*event)) {
     event->accept();
   } else if (IsTyping(*event)) {
     Type(event->text());
@@ -299,15 +291,11 @@ void DocumentView::Type(const QString& text) {
 void DocumentView::Delete(QTextCursor::MoveOperation operation) {
   Range range = text_.Selection();
   if (range.Length() == 0) {
-    if (operation == QTextCursor::PreviousCharacter) {
-      // One character, where a caret passes a letter with its accents at once.
-      range.begin = std::max<Position>(range.begin - 1, 0);
-    } else {
-      QTextCursor cursor = CursorAt(range);
-      cursor.movePosition(operation, QTextCursor::KeepAnchor);
-      range = {positions_.ToModel(cursor.selectionStart()),
-               positions_.ToModel(cursor.selectionEnd())};
-    }
+    // By what a reader sees as one character: a letter goes with its accents.
+    QTextCursor cursor = CursorAt(range);
+    cursor.movePosition(operation, QTextCursor::KeepAnchor);
+    range = {positions_.ToModel(cursor.selectionStart()),
+             positions_.ToModel(cursor.selectionEnd())};
   }
   actions_.Do([&](Program& program) {
     program.GoInto(text_);

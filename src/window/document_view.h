@@ -12,6 +12,7 @@
 #include "window/paragraph_decoration.h"
 #include "window/position_map.h"
 #include "window/text_pictures.h"
+#include "window/zoom.h"
 
 class QMimeData;
 
@@ -48,6 +49,7 @@ class DocumentView final : public QTextEdit {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -92,6 +94,12 @@ class DocumentView final : public QTextEdit {
 
   void PlaceCaret();
   void SetCursor(const QTextCursor& cursor);
+  // Tells the mark under the mouse in words. Returns whether there is one.
+  bool ShowMarkName(const QHelpEvent& event);
+  void ZoomBy(int steps);
+  void ZoomBack();
+  void ShowZoom();
+  bool ZoomKey(const QKeyEvent& event);
   bool EditKey(QKeyEvent* event);
   bool IsMovement(QKeyEvent* event) const;
   void ShowPreedit(const QInputMethodEvent& event);
@@ -104,6 +112,8 @@ class DocumentView final : public QTextEdit {
   PositionMap positions_;
   TextPictures pictures_;
   ParagraphDecoration decoration_;
+  Zoom zoom_;
+  int wheel_ = 0;  // how far the wheel turned towards the next step of the zoom
   QBasicTimer blink_;
   bool caretOn_ = false;
   bool reporting_ = false;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <algorithm>
@@ -10,6 +11,7 @@
 
 #include "window/appearance.h"
 #include "window/layout.h"
+#include "window/mark_names.h"
 #include "window/menus.h"
 #include "window/names.h"
 #include "window/shown.h"
@@ -51,6 +53,7 @@ MainWindow::MainWindow(Program& program)
   setObjectName(QStringLiteral("Form1"));
   setCentralWidget(desk_);
   BuildMenus();
+  BuildMarkLabel();
   BuildControls();
   StackControls();
   updates_.ShowAll();
@@ -68,6 +71,18 @@ void MainWindow::BuildMenus() {
     updates_.Follow(*item, *binder);
     binders_.push_back(std::move(binder));
   }
+}
+
+// The end of the menu bar is the one place that the catalogue leaves free.
+void MainWindow::BuildMarkLabel() {
+  mark_ = new QLabel(menuBar());
+  mark_->setObjectName(QStringLiteral("MarkAtCaret"));
+  mark_->setAccessibleName(QStringLiteral("Mark at the caret"));
+  mark_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  mark_->setContentsMargins(0, 0, 12, 0);
+  const QString longest = MarkName({RGB(128, 128, 255), true, true, 0});
+  mark_->setMinimumWidth(mark_->fontMetrics().horizontalAdvance(longest) + 24);
+  menuBar()->setCornerWidget(mark_);
 }
 
 void MainWindow::BuildControls() {
@@ -105,6 +120,8 @@ void MainWindow::Show() {
   updates_.ShowChanges();
   if (updates_.TakeWindowChanged()) ShowWindow();
   if (updates_.TakeFocusMoved()) ShowFocus();
+  const TextSurface& text = form_.RichTextBox1;
+  mark_->setText(MarkNameAt(text.Doc(), text.Selection()));
 }
 
 void MainWindow::ShowWindow() {

@@ -10,6 +10,8 @@
 #include "window/binder.h"
 #include "window/updates.h"
 
+class QLabel;
+
 namespace quill {
 
 class MainWindow final : public QMainWindow {
@@ -28,6 +30,7 @@ class MainWindow final : public QMainWindow {
 
  private:
   void BuildMenus();
+  void BuildMarkLabel();
   void BuildControls();
   void StackControls();
   QWidget& WidgetOf(const Control& control) const;
@@ -48,6 +51,7 @@ class MainWindow final : public QMainWindow {
   Updates updates_;
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
   QWidget* desk_;
+  QLabel* mark_ = nullptr;        // tells the mark at the caret in words
   Control* lastFocus_ = nullptr;  // where Tab goes on from
 };
 

@@ -10,6 +10,7 @@
 #include "rtf/decoration.h"
 #include "window/shown.h"
 #include "window/symbols.h"
+#include "window/zoom.h"
 
 namespace quill {
 namespace {
@@ -77,11 +78,6 @@ void MakeColumns(QTextBlockFormat& style, const std::vector<double>& columns, st
 }
 
 bool IsInTable(const QTextBlock& block) { return block.blockFormat().boolProperty(kInTable); }
-
-double ScaleOf(const QTextDocument& document) {
-  const QPaintDevice* const device = document.documentLayout()->paintDevice();
-  return device != nullptr ? device->logicalDpiY() / 96.0 : 1;
-}
 
 }  // namespace
 

@@ -11,6 +11,7 @@
 #include <cstring>
 
 #include "text/unicode.h"
+#include "window/zoom.h"
 
 namespace quill {
 namespace {
@@ -49,12 +50,6 @@ void DrawFrame(QPainter& painter, const QRectF& place) {
   painter.setBrush(QColor(0xf0, 0xf0, 0xf0));
   painter.drawRect(place.adjusted(0, 0, -1, -1));
   painter.restore();
-}
-
-double ScaleOf(const QTextDocument& shown) {
-  constexpr double kDotsInInch = 96;
-  const QPaintDevice* const device = shown.documentLayout()->paintDevice();
-  return device != nullptr ? device->logicalDpiY() / kDotsInInch : 1;
 }
 
 }  // namespace
