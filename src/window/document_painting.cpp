@@ -90,9 +90,9 @@ bool DocumentView::ShowMarkName(const QHelpEvent& event) {
   const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
   const int at =
       document()->documentLayout()->hitTest(QPointF(event.pos() + scrolled), Qt::ExactHit);
-  const Position position = at < 0 ? text_.Length() : positions_.ToModel(at);
-  if (position >= text_.Length()) return false;
-  const QString name = MarkName(text_.Doc().At(position));
+  if (at < 0) return false;
+  const Position position = positions_.ToModel(at);
+  const QString name = MarkNameAt(text_.Doc(), {position, position});
   if (name.isEmpty()) return false;
   QToolTip::showText(event.globalPos(), name, viewport());
   return true;

@@ -111,11 +111,11 @@ void ParagraphDecoration::DrawLabel(QPainter& painter, const QTextBlock& block) 
   if (layout.lineCount() == 0) return;
   const QTextLine line = layout.lineAt(0);
   const QRectF text = line.naturalTextRect().translated(layout.position());
-  const QString& label = LabelOf(block);
-  const QPaintDevice* const device = block.document()->documentLayout()->paintDevice();
-  const QFont font(block.charFormat().font(), device != nullptr ? device : painter.device());
-  const QFontMetricsF metrics(font);
+  const QString label = LabelOf(block);
   const double scale = ScaleOf(*block.document());
+  QFont font = block.charFormat().font();
+  font.setPointSizeF(font.pointSizeF() * scale);
+  const QFontMetricsF metrics(font, painter.device());
   const double room = block.blockFormat().doubleProperty(kLabelRoom) * scale;
   const double width = metrics.horizontalAdvance(label);
   const double most = room - kLabelGap * scale;
@@ -147,8 +147,9 @@ bool ParagraphDecoration::EndsRow(const QTextBlock& block) const {
          document_.Origins()[static_cast<std::size_t>(end)].kind == Origin::kRowEnd;
 }
 
-const QString& ParagraphDecoration::LabelOf(const QTextBlock& block) {
+QString ParagraphDecoration::LabelOf(const QTextBlock& block) {
   const Position at = positions_.ToModel(block.position());
+  if (at >= document_.Length()) return {};
   const Offset place = document_.Origins()[static_cast<std::size_t>(at)].begin;
   const auto [entry, isNew] = labels_.try_emplace(place);
   if (isNew) {

@@ -36,7 +36,7 @@ class ParagraphDecoration {
   void DrawLabel(QPainter& painter, const QTextBlock& block);
   void DrawRow(QPainter& painter, const QTextBlock& block) const;
   bool EndsRow(const QTextBlock& block) const;
-  const QString& LabelOf(const QTextBlock& block);
+  QString LabelOf(const QTextBlock& block);
 
   const Document& document_;
   const PositionMap& positions_;
