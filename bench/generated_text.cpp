@@ -34,6 +34,15 @@ constexpr std::array<std::string_view, 24> kWords = {
     "had",  "year",  "always", "a",         "then", "house",   "waiting", "afternoon",
     "once", "until", "he",     "said",      "at",   "moment",  "while",   "winter"};
 
+// In front of an item of a list.
+constexpr std::string_view kLabel = "{\\listtext\\pard\\plain \\u8226\\'95\\tab}\\fi-360\\li720 ";
+constexpr std::string_view kRow = "\\trowd\\trgaph108\\cellx2000\\cellx5600\\cellx8600\\intbl ";
+constexpr std::string_view kPicture =
+    "{\\*\\shppict{\\pict\\pngblip\\picw4\\pich4\\picwgoal900\\pichgoal600\n"
+    "89504e470d0a1a0a0000000d49484452000000040000000408020000002693092900000011494441"
+    "5478da6338b1200a8e1888e30000e2721c21048fa4eb0000000049454e44ae426082"
+    "}}";
+
 class Writer {
  public:
   Writer(Kind kind, std::int64_t characters) : kind_(kind), wanted_(characters) {
@@ -59,10 +68,23 @@ class Writer {
   std::size_t Below(std::size_t limit) { return static_cast<std::size_t>(random_()) % limit; }
 
   void Paragraph() {
+    ++paragraphs_;
     out_ += kParagraph;
+    if (kind_ == Kind::kLaidOut && paragraphs_ % 8 == 3) return Row();
+    if (kind_ == Kind::kLaidOut && paragraphs_ % 8 == 6) out_ += kLabel;
+    if (kind_ == Kind::kLaidOut && paragraphs_ % 32 == 1) Character(kPicture);
     for (std::size_t runs = 1 + Below(3); runs > 0; --runs) Run();
     out_ += "\n\\par ";
     ++written_;
+  }
+
+  void Row() {
+    out_ += kRow;
+    for (int cell = 0; cell < 3; ++cell) {
+      for (std::size_t words = 1 + Below(4); words > 0; --words) Word();
+      Character("\\cell ");
+    }
+    Character("\\row\n");
   }
 
   void Run() {
@@ -98,6 +120,7 @@ class Writer {
   Kind kind_;
   std::int64_t wanted_;
   std::int64_t written_ = 0;
+  int paragraphs_ = 0;
   bool wordIsMarked_ = false;
   std::mt19937_64 random_{20240229};
   std::string out_;

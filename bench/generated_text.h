@@ -10,6 +10,7 @@ namespace quill::bench {
 enum class Kind {
   kProse,         // paragraphs with settings, runs, curly quotes: a novel without marks
   kMarked,        // the same, with every second word blue and bold in a group of its own
+  kLaidOut,       // prose with items of lists, rows of tables and pictures in it
   kControlWords,  // settings and nothing that they set: as many bytes, no characters
 };
 

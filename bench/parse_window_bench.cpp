@@ -2,37 +2,25 @@
 // million characters with some 16,000 hits, and reading a dictionary as long as a list can be.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QtTest>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "generated_text.h"
-#include "no_machine.h"
 #include "rtf/reader.h"
-#include "window/appearance.h"
-#include "window/main_window.h"
+#include "window_bench.h"
 
 namespace quill::bench {
 
-// Every file is the same dictionary.
-class DictionaryDisk : public NoDisk {
- public:
-  std::string Read(const std::string& /*path*/) override { return dictionary; }
-  std::string dictionary;
-};
-
-class Parser {
+class Parser : public ShownProgram {
  public:
   Parser() {
     Form().PreFrame.Visible = true;
     Form().Frame5.Enabled = true;
-    Form().IDFrame.Visible = false;
-    window_ = std::make_unique<MainWindow>(program_);
-    window_->show();
+    ShowWindow();
     Restart();
   }
 
-  Form1& Form() { return program_.Form(); }
   // The text without marks, and an empty list.
   void Restart() {
     Form().RichTextBox1.SetDocument(plain_);
@@ -40,12 +28,8 @@ class Parser {
   }
   // Reads that many items as the text's dictionary.
   void Read(std::string dictionary) {
-    disk_.dictionary = std::move(dictionary);
+    Disk().content = std::move(dictionary);
     Press("Add_specific_parsing_list");
-  }
-  void Press(const char* name) {
-    QTest::mouseClick(window_->findChild<QWidget*>(QString::fromLatin1(name)), Qt::LeftButton);
-    QApplication::processEvents();
   }
   int Hits() {
     const std::u32string& text = Form().RichTextBox1.Text();
@@ -59,10 +43,6 @@ class Parser {
 
  private:
   const Document plain_ = *rtf::Read(GeneratedText(Kind::kProse, 3'200'000));
-  NoDialogs dialogs_;
-  DictionaryDisk disk_;
-  Program program_{dialogs_, disk_};
-  std::unique_ptr<MainWindow> window_;
 };
 
 // Made at the first use, and taken down while the toolkit still runs.
@@ -128,11 +108,5 @@ BENCHMARK(ReadDictionary)
 }  // namespace quill::bench
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  quill::SetLook(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  quill::bench::shownParser.reset();
-  return 0;
+  return quill::bench::RunWindowBenchmarks(argc, argv, [] { quill::bench::shownParser.reset(); });
 }

@@ -3,66 +3,47 @@
 #include <benchmark/benchmark.h>
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QTextEdit>
 #include <QtTest>
 #include <memory>
 
 #include "generated_text.h"
-#include "no_machine.h"
 #include "rtf/reader.h"
 #include "tag_lines.h"
-#include "window/appearance.h"
-#include "window/main_window.h"
+#include "window_bench.h"
 
 namespace quill::bench {
 
-class Tags {
+class Tags : public ShownProgram {
  public:
   Tags() {
     Form().RichTextBox1.SetDocument(*rtf::Read(GeneratedText(Kind::kProse, 3'200'000)));
     Form().mnuProcess.Enabled = true;
-    Form().IDFrame.Visible = false;
-    program_.Click(Form().mnuPostProcess);
+    TheProgram().Click(Form().mnuPostProcess);
     for (int i = 0; i < ListBox::kMostItems; ++i) Form().TagList.AddItem(TagLine(i));
-    window_ = std::make_unique<MainWindow>(program_);
-    window_->show();
-    Paint();
+    ShowWindow();
   }
 
-  Form1& Form() { return program_.Form(); }
-  void Press(const char* name) {
-    QTest::mouseClick(window_->findChild<QWidget*>(QString::fromLatin1(name)), Qt::LeftButton);
-    Paint();
-  }
   void ClickRow(int row) {
-    auto& list = *window_->findChild<QAbstractItemView*>(QStringLiteral("TagList"));
+    auto& list = Find<QAbstractItemView>("TagList");
     const QModelIndex index = list.model()->index(row, 0);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       {10, list.visualRect(index).center().y()});
     Paint();
   }
   void ScrollListTo(int row) {
-    auto& list = *window_->findChild<QAbstractItemView*>(QStringLiteral("TagList"));
+    auto& list = Find<QAbstractItemView>("TagList");
     list.scrollTo(list.model()->index(row, 0), QAbstractItemView::PositionAtTop);
     Paint();
   }
   void PutCaretAt(Position at) {
-    auto& view = *window_->findChild<QTextEdit*>(QStringLiteral("RichTextBox1"));
-    program_.Select(at, 0);
+    auto& view = Find<QTextEdit>("RichTextBox1");
+    TheProgram().Select(at, 0);
     QTextCursor cursor(view.document());
     cursor.setPosition(static_cast<int>(at));
     view.setTextCursor(cursor);
     Paint();
   }
-
- private:
-  static void Paint() { QApplication::processEvents(); }
-
-  NoDialogs dialogs_;
-  NoDisk disk_;
-  Program program_{dialogs_, disk_};
-  std::unique_ptr<MainWindow> window_;
 };
 
 // Made at the first use, and taken down while the toolkit still runs.
@@ -123,11 +104,5 @@ BENCHMARK(Remove)->Name("TagsInWindow/Remove")->Iterations(30)->Unit(benchmark::
 }  // namespace quill::bench
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  quill::SetLook(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  quill::bench::shownTags.reset();
-  return 0;
+  return quill::bench::RunWindowBenchmarks(argc, argv, [] { quill::bench::shownTags.reset(); });
 }
