@@ -134,6 +134,10 @@ void Program::TypeInText(std::u32string_view text) {
   Run([&] { form_.RichTextBox1.TypeOver(text); });
 }
 
+void Program::MoveInText(Range range, Position to) {
+  Run([&] { form_.RichTextBox1.UserMoves(range, to); });
+}
+
 void Program::UndoInText() {
   Run([&] { form_.RichTextBox1.Undo(); });
 }

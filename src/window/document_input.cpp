@@ -123,20 +123,16 @@ void DocumentView::dragMoveEvent(QDragMoveEvent* event) {
 
 void DocumentView::dropEvent(QDropEvent* event) {
   const QTextCursor place = cursorForPosition(event->position().toPoint());
-  Position at = positions_.ToModel(place.position());
+  const Position at = positions_.ToModel(place.position());
   const Range dragged = text_.Selection();
   const bool moves = IsOwnDrag(*event) && !event->modifiers().testFlag(Qt::ControlModifier);
   const std::u32string text = FromQt(PlainText(*event->mimeData()));
   // The source is never to delete anything itself.
   event->setDropAction(Qt::CopyAction);
   event->accept();
-  if (moves && ((at >= dragged.begin && at <= dragged.end) || !text_.Doc().CanDelete(dragged))) {
-    return;
-  }
   actions_.Do([&](Program& program) {
     program.GoInto(text_);
-    if (moves) program.DeleteInText(dragged);
-    if (moves && at > dragged.end) at -= dragged.Length();
+    if (moves) return program.MoveInText(dragged, at);
     program.Select(at, 0);
     program.TypeInText(text);
   });

@@ -202,12 +202,32 @@ void TextSurface::UserDeletes(Range range) {
   Select({range.begin, range.begin});
 }
 
+void TextSurface::UserMoves(Range range, Position to) {
+  const std::u32string moved = Text().substr(static_cast<std::size_t>(range.begin),
+                                             static_cast<std::size_t>(range.Length()));
+  const bool inside = to >= range.begin && to <= range.end;
+  if (moved.empty() || inside || !document_.CanDelete(range) ||
+      moved.find(kObject) != std::u32string::npos) {
+    return;
+  }
+  UserDeletes(range);
+  SelStart = to > range.end ? to - range.Length() : to;
+  TypeOver(moved);
+  history_.JoinLast();
+}
+
 void TextSurface::Undo() {
-  if (CanUndo()) Step(false);
+  if (!CanUndo()) return;
+  do {
+    Step(false);
+  } while (history_.StepGoesOn(false));
 }
 
 void TextSurface::Redo() {
-  if (CanRedo()) Step(true);
+  if (!CanRedo()) return;
+  do {
+    Step(true);
+  } while (history_.StepGoesOn(true));
 }
 
 void TextSurface::Step(bool forward) {

@@ -84,6 +84,9 @@ class TextSurface : public Control {
   void TypeOver(std::u32string_view text);
   // Deletes a range as one edit.
   void UserDeletes(Range range);
+  // Takes a range away and types it at a place outside it, as one edit. Pictures are no text that
+  // could be typed: with one in the range it does nothing.
+  void UserMoves(Range range, Position to);
   bool CanUndo() const { return history_.CanUndo(); }
   bool CanRedo() const { return history_.CanRedo(); }
   void Undo();
