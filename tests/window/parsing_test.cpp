@@ -2,12 +2,10 @@
 // term that it asks about in sight.
 #include <QApplication>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QTimer>
-#include <QtTest>
 #include <functional>
 
+#include "hands/dialog_hands.h"
 #include "shown_window.h"
 #include "user.h"
 #include "window/window_dialogs.h"
@@ -25,12 +23,12 @@ class ParsingTest : public WindowTest {
   ParsingTest() {
     boxes.Attach(window, form);
     dialogs.ask = [this](const auto& prompt, int buttons, const auto& title) {
-      QTimer::singleShot(0, &window, [this] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        box->button(answer(*box))->click();
+      dialogHands.AtNext([this](QDialog& dialog) {
+        DialogHands::Press(dialog, answer(dynamic_cast<QMessageBox&>(dialog)));
       });
-      return boxes.MsgBox(prompt, buttons, title);
+      const int pressed = boxes.MsgBox(prompt, buttons, title);
+      dialogHands.Finish();
+      return pressed;
     };
   }
 
@@ -75,6 +73,7 @@ class ParsingTest : public WindowTest {
   Attributes At(Position position) const { return form.RichTextBox1.Doc().At(position); }
 
   WindowDialogs boxes;
+  DialogHands dialogHands;
   std::function<Button(QMessageBox&)> answer;  // looks at a box and chooses a button
 };
 
