@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <stdexcept>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
+#include <vector>
 
 namespace quill::tour {
 namespace {
@@ -19,29 +22,35 @@ void DrawOver(QPixmap& picture, const QWidget& window, QWidget& dialog) {
   painter.drawRect(QRect(place, dialog.size()).adjusted(-1, -1, 0, 0));
 }
 
-// Colours that nobody tells apart become the one of them that there is most of: the colours of the
-// marks stay what they are, the edges of letters have fewer shades, and half of the bytes will do.
-QImage Reduced(QImage picture) {
-  const auto group = [](QRgb colour) { return colour & 0xFFF0F0F0U; };
-  std::unordered_map<QRgb, std::unordered_map<QRgb, int>> groups;
+// The colours of a picture, those that there is most of first.
+std::vector<QRgb> Colours(const QImage& picture) {
+  std::unordered_map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      const QRgb colour = picture.pixel(x, y);
-      ++groups[group(colour)][colour];
-    }
+    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
   }
-  std::unordered_map<QRgb, QRgb> most;
-  for (const auto& [of, counts] : groups) {
-    most[of] = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
-                 return a.second < b.second;
-               })->first;
+  std::vector<QRgb> colours;
+  for (const auto& [colour, count] : counts) colours.push_back(colour);
+  std::sort(colours.begin(), colours.end(),
+            [&](QRgb a, QRgb b) { return std::pair(counts[a], a) > std::pair(counts[b], b); });
+  return colours;
+}
+
+// In 256 colours, which is a third of the bytes: a window has few, but for the edges of its
+// letters. One of those that are nearly alike comes first, so that the few pixels of a mark keep
+// its colour, then whatever there is most of.
+QImage Reduced(const QImage& picture) {
+  const std::vector<QRgb> colours = Colours(picture);
+  std::unordered_set<QRgb> kinds;
+  QList<QRgb> table;
+  for (const QRgb colour : colours) {
+    if (kinds.insert(colour & 0xE0E0E0U).second) table += colour;
   }
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      picture.setPixel(x, y, most[group(picture.pixel(x, y))]);
-    }
+  for (const QRgb colour : colours) {
+    if (table.size() < 256 && !table.contains(colour)) table += colour;
   }
-  return picture;
+  table.resize(std::min<qsizetype>(table.size(), 256));
+  return picture.convertToFormat(QImage::Format_Indexed8, table,
+                                 Qt::ThresholdDither | Qt::AvoidDither);
 }
 
 }  // namespace
