@@ -79,7 +79,8 @@ void MainWindow::BuildMarkLabel() {
   mark_->setObjectName(QStringLiteral("MarkAtCaret"));
   mark_->setAccessibleName(QStringLiteral("Mark at the caret"));
   mark_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  mark_->setContentsMargins(0, 0, 12, 0);
+  // The bar puts it higher than its own captions.
+  mark_->setContentsMargins(0, 2, 12, 0);
   const QString longest = MarkName({RGB(128, 128, 255), true, true, 0});
   mark_->setMinimumWidth(mark_->fontMetrics().horizontalAdvance(longest) + 24);
   menuBar()->setCornerWidget(mark_);
