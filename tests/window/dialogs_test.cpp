@@ -106,7 +106,7 @@ class DialogsTest : public testing::Test {
   // Called once for the dialog that opens next.
   template <class Dialog>
   void AtNext(std::function<void(Dialog&)> look) {
-    QTimer::singleShot(0, &window, [this, look = std::move(look)] {
+    QTimer::singleShot(0, &window, [look = std::move(look)] {
       auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
       if (dialog != nullptr) return look(*dialog);
       ADD_FAILURE() << "another dialog, or none";
