@@ -68,6 +68,8 @@ void MakeColumns(QTextBlockFormat& style, const std::vector<double>& columns, st
   const bool isInColumn = cell > 0 && cell <= columns.size();
   style.setLeftMargin(isInColumn ? columns[cell - 1] : kCellGap);
   style.setTextIndent(0);
+  // A cell that is centred must not take its whole row out of the columns.
+  if (!columns.empty()) style.setAlignment(Qt::AlignLeft);
   style.setTopMargin(std::max(style.topMargin(), kRowGap));
   style.setBottomMargin(std::max(style.bottomMargin(), kRowGap));
   QList<QTextOption::Tab> tabs;

@@ -58,13 +58,14 @@ TEST_F(DecorationTest, LabelsStandInFrontOfTheirParagraphs) {
 
 TEST_F(DecorationTest, CellsStandUnderEachOther) {
   OpenText(R"(\trowd\cellx1500\cellx4500\intbl a\cell bb\cell\row )"
-           R"(\intbl long\cell b\par and\cell\row\pard behind)");
+           R"(\intbl long\cell b\par and\cell\row\intbl c\cell\qr d\cell\row\pard behind)");
   const std::u32string& text = form.RichTextBox1.Text();
-  EXPECT_EQ(text, U"a\tbb\t\nlong\tb\nand\t\nbehind");
+  EXPECT_EQ(text, U"a\tbb\t\nlong\tb\nand\t\nc\td\t\nbehind");
   EXPECT_NEAR(CaretAt(2).left(), 8 + 100 + 7, 2);
   EXPECT_EQ(CaretAt(11).left(), CaretAt(2).left());
   EXPECT_EQ(CaretAt(13).left(), CaretAt(2).left()) << "the second paragraph of a cell";
-  EXPECT_EQ(CaretAt(18).left(), 8) << "behind the table";
+  EXPECT_EQ(CaretAt(20).left(), CaretAt(2).left()) << "a cell that is set right";
+  EXPECT_EQ(CaretAt(23).left(), 8) << "behind the table";
   // A line between the rows.
   const QRect gap(QPoint(200, CaretAt(0).bottom() + 1), QPoint(300, CaretAt(6).top() - 1));
   const QImage image = View().viewport()->grab(gap).toImage();
