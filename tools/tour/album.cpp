@@ -29,6 +29,7 @@ std::vector<QRgb> Colours(const QImage& picture) {
     for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
   }
   std::vector<QRgb> colours;
+  colours.reserve(counts.size());
   for (const auto& [colour, count] : counts) colours.push_back(colour);
   std::sort(colours.begin(), colours.end(),
             [&](QRgb a, QRgb b) { return std::pair(counts[a], a) > std::pair(counts[b], b); });
