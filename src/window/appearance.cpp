@@ -4,10 +4,11 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+
+#include "window/edges.h"
 
 namespace quill {
 namespace {
@@ -99,7 +100,7 @@ QColor BackgroundOf(const CatalogueRow& row) {
 }
 
 void SetLook(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new EdgeStyle);
   QApplication::setPalette(LightPalette());
   application.setStyleSheet(QString());
   QFont font = ControlFont(0, false);

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "window/appearance.h"
+#include "window/edges.h"
 #include "window/shown.h"
 
 namespace quill {
@@ -28,8 +29,7 @@ class Panel : public QGroupBox {
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     painter.fillRect(rect(), background_);
-    painter.setPen(background_.darker(118));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    DrawEdge(painter, rect(), background_.darker(118));
     const QString text = title().simplified();
     const Caption laid = LayTitle(font(), text, rect());
     painter.setPen(isEnabled() ? text_ : palette().color(QPalette::Disabled, QPalette::WindowText));

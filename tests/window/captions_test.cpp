@@ -1,7 +1,8 @@
-// Captions: each shows whole on its widget, in the font that it is painted with.
+// Captions and edges: each shows whole at every scale.
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
+#include <array>
 
 #include "window/appearance.h"
 #include "window/shown.h"
@@ -43,6 +44,46 @@ TEST_F(WindowTest, ShowsEveryCaptionWhole) {
     }
   }
   EXPECT_GT(seen, 35);
+}
+
+// The sides of a rectangle of the window, each by a point that lies on it near a corner.
+struct Side {
+  const char* name;
+  QPointF point;
+  QPointF across;
+};
+
+std::array<Side, 4> SidesOf(const QRectF& place) {
+  constexpr double kInside = 4;
+  const QPointF first = place.topLeft() + QPointF(kInside, kInside);
+  const QPointF last = place.bottomRight() - QPointF(kInside, kInside);
+  return {{{"left", {place.left(), first.y()}, {1, 0}},
+           {"top", {first.x(), place.top()}, {0, 1}},
+           {"right", {place.right() - 1, last.y()}, {1, 0}},
+           {"bottom", {last.x(), place.bottom() - 1}, {0, 1}}}};
+}
+
+// Whether the edge is painted within a point of the screen of where it belongs.
+bool IsPainted(const QImage& image, const Side& side, QRgb colour) {
+  const double scale = image.devicePixelRatio();
+  for (double away = -1; away <= 2; ++away) {
+    const QPointF at = side.point * scale + side.across * away;
+    if (image.pixel(static_cast<int>(at.x()), static_cast<int>(at.y())) == colour) return true;
+  }
+  return false;
+}
+
+TEST_F(WindowTest, DrawsEverySideOfThePanels) {
+  OpenText("text");
+  const QImage image = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  for (const char* const name : {"PreFrame", "Frame1", "Frame2", "Frame3", "Frame4", "Frame5"}) {
+    const QWidget& panel = Widget(name);
+    const QRgb colour = BackgroundOf(RowOf(name)).darker(118).rgb();
+    const QRectF place(panel.mapTo(&window, QPoint(0, 0)), panel.size());
+    for (const Side& side : SidesOf(place)) {
+      EXPECT_TRUE(IsPainted(image, side, colour)) << name << ", " << side.name;
+    }
+  }
 }
 
 }  // namespace

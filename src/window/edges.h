@@ -1,0 +1,21 @@
+// The edges of boxes and panels, as thin as they can be seen and whole at every scale. A line of
+// one pixel that the toolkit strokes is lost at 125 and 150 % where it begins between two points of
+// the screen.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace quill {
+
+// One pixel wide (at 100 %), inside the rectangle.
+void DrawEdge(QPainter& painter, const QRect& rect, const QColor& colour);
+
+// The application's style, with the frames of boxes that scroll drawn by `DrawEdge`.
+class EdgeStyle final : public QProxyStyle {
+ public:
+  EdgeStyle();
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
+
+}  // namespace quill
