@@ -13,6 +13,7 @@ ShownProgram::ShownProgram() { Form().IDFrame.Visible = false; }
 
 void ShownProgram::ShowWindow() {
   window_ = std::make_unique<MainWindow>(program_);
+  window_->resize(window_->sizeHint());
   window_->show();
   Paint();
 }

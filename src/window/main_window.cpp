@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <algorithm>
 #include <map>
 
@@ -22,8 +23,7 @@ namespace {
 // The inside of the window. It takes the focus when no control should have it.
 class Desk : public QWidget {
  public:
-  Desk(QWidget& parent, std::function<void()> resized)
-      : QWidget(&parent), resized_(std::move(resized)) {
+  explicit Desk(std::function<void()> resized) : resized_(std::move(resized)) {
     setMinimumSize(LeastSize());
   }
 
@@ -34,14 +34,6 @@ class Desk : public QWidget {
   std::function<void()> resized_;
 };
 
-// As large as stored, or as the screen lets it be.
-QSize FirstSize(const QMainWindow& window) {
-  const QSize frame(8, 40);
-  const QSize room = window.screen()->availableSize() - frame;
-  const QSize stored = StoredSize() + QSize(0, window.menuBar()->sizeHint().height());
-  return stored.boundedTo(room);
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Program& program)
@@ -49,9 +41,10 @@ MainWindow::MainWindow(Program& program)
       actions_(
           program, [this] { Show(); }, [this] { close(); }),
       updates_(form_, [this] { Show(); }),
-      desk_(new Desk(*this, [this] { Arrange(); })) {
+      room_(new QScrollArea(this)),
+      desk_(new Desk([this] { Arrange(); })) {
   setObjectName(QStringLiteral("Form1"));
-  setCentralWidget(desk_);
+  BuildRoom();
   BuildMenus();
   BuildMarkLabel();
   BuildControls();
@@ -60,10 +53,24 @@ MainWindow::MainWindow(Program& program)
   Show();
   desk_->setFocus();
   QApplication::instance()->installEventFilter(this);
-  resize(FirstSize(*this));
+  const QSize frame(8, 40);
+  resize(sizeHint().boundedTo(screen()->availableSize() - frame));
+}
+
+QSize MainWindow::sizeHint() const {
+  return StoredSize() + QSize(0, menuBar()->sizeHint().height());
 }
 
 MainWindow::~MainWindow() { QApplication::instance()->removeEventFilter(this); }
+
+// On a screen that is too small even for the least size, the whole desk scrolls.
+void MainWindow::BuildRoom() {
+  room_->setFrameStyle(QFrame::NoFrame);
+  room_->setFocusPolicy(Qt::NoFocus);
+  room_->setWidgetResizable(true);
+  room_->setWidget(desk_);
+  setCentralWidget(room_);
+}
 
 void MainWindow::BuildMenus() {
   menuBar()->setNativeMenuBar(false);
@@ -134,10 +141,11 @@ void MainWindow::ShowWindow() {
 void MainWindow::ShowFocus() {
   lastFocus_ = form_.Focus();
   if (!lastFocus_->IsInReach()) return;
-  const QWidget& widget = WidgetOf(*lastFocus_);
+  QWidget& widget = WidgetOf(*lastFocus_);
   // A user's own move is done already, down to the place of the caret.
   if (widget.hasFocus() || widget.isAncestorOf(focusWidget())) return;
   updates_.BinderOf(*lastFocus_).TakeFocus();
+  room_->ensureWidgetVisible(&widget);
 }
 
 void MainWindow::Arrange() {
@@ -220,8 +228,10 @@ bool MainWindow::MoveByTab(bool forward) {
     at = (at + (forward ? 1 : size - 1)) % size;
     Control* const control = form_.Find(order[static_cast<std::size_t>(at)]);
     if (!IsTabStop(*control)) continue;
-    WidgetOf(*control).setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    UserGoesInto(WidgetOf(*control));
+    QWidget& widget = WidgetOf(*control);
+    widget.setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    room_->ensureWidgetVisible(&widget);
+    UserGoesInto(widget);
     return true;
   }
   return false;

@@ -11,6 +11,7 @@
 #include "window/updates.h"
 
 class QLabel;
+class QScrollArea;
 
 namespace quill {
 
@@ -19,6 +20,9 @@ class MainWindow final : public QMainWindow {
   // The program must outlive the window.
   explicit MainWindow(Program& program);
   ~MainWindow() override;
+
+  // The stored size and the menu bar. The window begins with it where the screen is large enough.
+  QSize sizeHint() const override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -29,6 +33,7 @@ class MainWindow final : public QMainWindow {
   bool focusNextPrevChild(bool next) override;
 
  private:
+  void BuildRoom();
   void BuildMenus();
   void BuildMarkLabel();
   void BuildControls();
@@ -50,6 +55,7 @@ class MainWindow final : public QMainWindow {
   Actions actions_;
   Updates updates_;
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
+  QScrollArea* room_;                             // what the window has for the desk
   QWidget* desk_;
   QLabel* mark_ = nullptr;        // tells the mark at the caret in words
   Control* lastFocus_ = nullptr;  // where Tab goes on from

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QtTest>
+#include <set>
 
 #include "shown_window.h"
 #include "user.h"
@@ -88,6 +89,22 @@ TEST_F(WindowTest, TheTextTakesWhatTheWindowGrowsBy) {
   QApplication::processEvents();
   EXPECT_EQ(Widget("RichTextBox1").geometry(), text.adjusted(0, 0, 200, 100));
   EXPECT_EQ(Widget("PreFrame").geometry(), panel.translated(0, 100));
+}
+
+TEST_F(WindowTest, InASmallWindowTheTextShrinksAndTabBringsWhatIsOutOfSight) {
+  OpenText(kBody);
+  Press("DefAMarker");
+  window.resize(700, 420);
+  QApplication::processEvents();
+  EXPECT_EQ(Widget("RichTextBox1").height(), 90);
+  std::set<std::string> visited;
+  while (visited.insert(FocusName()).second) {
+    Key(Qt::Key_Tab);
+    const QWidget& reached = Widget(FocusName().c_str());
+    if (FocusName() == "RichTextBox1") continue;
+    EXPECT_EQ(reached.visibleRegion().boundingRect(), reached.rect()) << FocusName();
+  }
+  EXPECT_GT(visited.size(), 10U);
 }
 
 TEST_F(WindowTest, AMenuTitleHasAHandlerOfItsOwn) {

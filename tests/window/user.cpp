@@ -5,6 +5,7 @@
 namespace quill::test {
 
 WindowTest::WindowTest() : Hands(window) {
+  window.resize(window.sizeHint());
   window.show();
   window.activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

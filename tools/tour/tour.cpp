@@ -20,6 +20,7 @@ std::u32string Utf32(const char* text) { return FromQt(QString::fromUtf8(text));
 Tour::Tour(const QString& folder, Album& album)
     : Hands(ShownProgram::window), folder_(folder), album_(album) {
   dialogs.Attach(window, form);
+  window.resize(window.sizeHint());
   window.show();
   ComeToFront();
 }
