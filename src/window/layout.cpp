@@ -1,5 +1,7 @@
 #include "window/layout.h"
 
+#include <algorithm>
+
 #include "window/appearance.h"
 
 namespace quill {
@@ -23,16 +25,18 @@ QSize LeastSize() {
 }
 
 QRect PlaceIn(QSize room, const CatalogueRow& row, bool guidanceShown) {
-  const QSize growth = room - StoredSize();
+  // Below the least size the desk scrolls; the text still has the width of what is seen of it.
+  const int wider = room.width() - StoredSize().width();
+  const int higher = std::max(room.height(), LeastSize().height()) - StoredSize().height();
   QRect place = PixelsOf(row.place);
   if (row.name == "RichTextBox1") {
-    place.setSize(place.size() + growth);
+    place.setSize(place.size() + QSize(wider, higher));
     if (guidanceShown) place.setRight(PlaceIn(room, RowOf("User_Dialogue"), true).left() - kGap);
   } else if (row.name == "User_Dialogue") {
-    place.translate(growth.width(), 0);
-    place.setHeight(place.height() + growth.height());
+    place.translate(wider, 0);
+    place.setHeight(place.height() + higher);
   } else if (row.name == "PreFrame" || row.name == "PostFrame") {
-    place.translate(0, growth.height());
+    place.translate(0, higher);
   }
   return place;
 }

@@ -20,15 +20,21 @@
 namespace quill {
 namespace {
 
-// The inside of the window. It takes the focus when no control should have it.
-class Desk : public QWidget {
+// The inside of the window. On a screen that is too small even for the least size, it scrolls.
+class Room : public QScrollArea {
  public:
-  explicit Desk(std::function<void()> resized) : resized_(std::move(resized)) {
-    setMinimumSize(LeastSize());
+  Room(QWidget& parent, std::function<void()> resized)
+      : QScrollArea(&parent), resized_(std::move(resized)) {
+    setFrameStyle(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
   }
 
  protected:
-  void resizeEvent(QResizeEvent* /*event*/) override { resized_(); }
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    resized_();
+  }
 
  private:
   std::function<void()> resized_;
@@ -41,10 +47,12 @@ MainWindow::MainWindow(Program& program)
       actions_(
           program, [this] { Show(); }, [this] { close(); }),
       updates_(form_, [this] { Show(); }),
-      room_(new QScrollArea(this)),
-      desk_(new Desk([this] { Arrange(); })) {
+      room_(new Room(*this, [this] { Arrange(); })),
+      desk_(new QWidget) {
   setObjectName(QStringLiteral("Form1"));
-  BuildRoom();
+  desk_->setMinimumSize(LeastSize());
+  room_->setWidget(desk_);
+  setCentralWidget(room_);
   BuildMenus();
   BuildMarkLabel();
   BuildControls();
@@ -62,15 +70,6 @@ QSize MainWindow::sizeHint() const {
 }
 
 MainWindow::~MainWindow() { QApplication::instance()->removeEventFilter(this); }
-
-// On a screen that is too small even for the least size, the whole desk scrolls.
-void MainWindow::BuildRoom() {
-  room_->setFrameStyle(QFrame::NoFrame);
-  room_->setFocusPolicy(Qt::NoFocus);
-  room_->setWidgetResizable(true);
-  room_->setWidget(desk_);
-  setCentralWidget(room_);
-}
 
 void MainWindow::BuildMenus() {
   menuBar()->setNativeMenuBar(false);
@@ -155,7 +154,7 @@ void MainWindow::Arrange() {
       continue;
     }
     WidgetOf(*control).setGeometry(
-        PlaceIn(desk_->size(), control->Row(), form_.User_Dialogue.Visible));
+        PlaceIn(room_->viewport()->size(), control->Row(), form_.User_Dialogue.Visible));
   }
 }
 

@@ -33,7 +33,6 @@ class MainWindow final : public QMainWindow {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  void BuildRoom();
   void BuildMenus();
   void BuildMarkLabel();
   void BuildControls();
