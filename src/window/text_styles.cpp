@@ -1,6 +1,7 @@
 #include "window/text_styles.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -25,14 +26,30 @@ int ShownHalfPoints(const CharacterLook& look) {
   return std::clamp<int>(look.halfPoints, kLeastHalfPoints, kMostHalfPoints);
 }
 
+// Itself, or what the desktop's font settings put in its place. In a list of families the toolkit
+// would pass over one that is not installed.
+QString Installed(const QString& family) {
+  return QFontDatabase::hasFamily(family) ? family : QFontInfo(QFont(family)).family();
+}
+
+// The families for what the text's own lacks. The toolkit takes characters that many scripts share,
+// such as the ideographic full stop, from any font that has them: from one for Mongolian, say,
+// between Chinese words. A Chinese family has those as they are meant.
+QStringList StandIns() {
+  QStringList families{Installed(QFontDatabase::systemFont(QFontDatabase::GeneralFont).family())};
+  const QStringList chinese = QFontDatabase::families(QFontDatabase::SimplifiedChinese);
+  if (!chinese.isEmpty()) families += chinese.front();
+  return families;
+}
+
 void SetFont(QTextCharFormat& style, const CharacterLook& look,
              const std::vector<FontFace>& fonts) {
-  const QString fallback = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+  static const QStringList standIns = StandIns();
   QStringList families;
   if (look.font < fonts.size() && !fonts[look.font].name.empty()) {
-    families += QString::fromStdString(fonts[look.font].name);
+    families += Installed(QString::fromStdString(fonts[look.font].name));
   }
-  families += fallback;
+  families += standIns;
   style.setFontFamilies(families);
   style.setFontPointSize(ShownHalfPoints(look) / 2.0);
 }

@@ -2,6 +2,7 @@
 // character there.
 #include <QApplication>
 #include <QClipboard>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QMimeData>
 #include <QScrollBar>
@@ -206,6 +207,20 @@ TEST_F(ViewTest, RaisedAndUnderlinedTextLooksSo) {
   EXPECT_LT(highlighted.top(), plain.top() - 3);
   EXPECT_EQ(highlighted.bottom(), raised.bottom());
   EXPECT_GT(Area(8, 12, blue).bottom(), plain.bottom() + 1);
+}
+
+// One that is not would be passed over, and with it the serifs that the desktop has for it.
+TEST_F(ViewTest, EveryFamilyOfTheTextIsInstalled) {
+  OpenText(R"({\fonttbl{\f1 No such family;}}{\f1 one}{\f0 two})");
+  for (const int position : {1, 4}) {
+    QTextCursor cursor(View().document());
+    cursor.setPosition(position);
+    const QStringList families = cursor.charFormat().fontFamilies().toStringList();
+    EXPECT_GE(families.size(), 2);
+    for (const QString& family : families) {
+      EXPECT_TRUE(QFontDatabase::hasFamily(family)) << family.toStdString();
+    }
+  }
 }
 
 }  // namespace
