@@ -17,6 +17,9 @@ constexpr int kControlPixels = 11;
 constexpr int kMenuPixels = 12;
 constexpr int kSmallestPixels = 9;
 
+// In percent: how far type is narrowed before it is made smaller.
+constexpr int kStretches[] = {100, 97, 94, 91, 88};
+
 const QColor kDesk(0xf0, 0xf1, 0xf3);
 const QColor kDisabledText(0x84, 0x88, 0x8f);
 
@@ -70,6 +73,11 @@ QPalette LightPalette() {
   }
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xf4, 0xf5, 0xf6));
   return palette;
+}
+
+QFont Stretched(QFont font, int percent) {
+  font.setStretch(percent);
+  return font;
 }
 
 }  // namespace
@@ -132,9 +140,27 @@ QFont FittingFont(QFont font, const QString& text, QSize room) {
   return font;
 }
 
+QFont UnbrokenFont(QFont font, const QString& text, int width) {
+  const QStringList lines = text.split(QLatin1Char('\n'));
+  const auto fits = [&](const QString& line) {
+    return QFontMetrics(font).horizontalAdvance(line.trimmed()) <= width;
+  };
+  for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
+    font.setPixelSize(pixels);
+    for (const int stretch : kStretches) {
+      font = Stretched(font, stretch);
+      if (std::all_of(lines.begin(), lines.end(), fits)) return font;
+    }
+  }
+  return font;
+}
+
 Caption LayCaption(const QFont& font, const QString& text, const QRect& face) {
-  const QRect wide = face.adjusted(6, 1, -6, -1);
-  if (Fits(font, text, wide.size())) return {font, wide};
+  const QRect wide = face.adjusted(5, 1, -5, -1);
+  for (const int stretch : kStretches) {
+    const QFont narrower = Stretched(font, stretch);
+    if (Fits(narrower, text, wide.size())) return {narrower, wide};
+  }
   // Rather a narrow margin than small type.
   const QRect narrow = face.adjusted(2, 1, -2, -1);
   return {FittingFont(font, text, narrow.size()), narrow};

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <limits>
 
 #include "window/appearance.h"
@@ -89,12 +90,19 @@ SeveralLinesBinder::SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actio
                                                                      : Qt::ScrollBarAlwaysOff);
   edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   edit.document()->setDocumentMargin(3);
-  if (IsReadOnly() && !box.Row().stored.verticalScrollBar) {
-    constexpr QSize kMargins(12, 10);
-    edit.setFont(FittingFont(edit.font(), ToQt(box.Row().text), edit.size() - kMargins));
-  }
+  if (IsReadOnly()) edit.setFont(FontForStoredText());
   QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit,
                    [this] { Forward(ShownText(Box().Text.Get()), RawText(*edit_.document())); });
+}
+
+// The stored text says how it is meant to be read: as a whole or, where the box scrolls, by lines.
+QFont SeveralLinesBinder::FontForStoredText() const {
+  const QString text = ToQt(Box().Row().text);
+  constexpr QSize kMargins(12, 10);
+  const QSize room = edit_.size() - kMargins;
+  if (!Box().Row().stored.verticalScrollBar) return FittingFont(edit_.font(), text, room);
+  const int bar = edit_.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return UnbrokenFont(edit_.font(), text, room.width() - bar);
 }
 
 void SeveralLinesBinder::Show() {

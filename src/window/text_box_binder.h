@@ -1,6 +1,7 @@
 // Text boxes, of one line and of several.
 #pragma once
 
+#include <QFont>
 #include <optional>
 
 #include "window/binder.h"
@@ -53,6 +54,7 @@ class SeveralLinesBinder final : public TextBoxBinder {
 
  private:
   SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions);
+  QFont FontForStoredText() const;
 
   QPlainTextEdit& edit_;
 };

@@ -2,6 +2,8 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPlainTextEdit>
+#include <QTextBlock>
 #include <array>
 
 #include "window/appearance.h"
@@ -44,6 +46,18 @@ TEST_F(WindowTest, ShowsEveryCaptionWhole) {
     }
   }
   EXPECT_GT(seen, 35);
+}
+
+TEST_F(WindowTest, ShowsEveryLineOfTheWelcomeWhole) {
+  Choose("mnuDialogue_on");
+  const auto& guidance = dynamic_cast<QPlainTextEdit&>(Widget("User_Dialogue"));
+  const QTextDocument& text = *guidance.document();
+  EXPECT_GT(text.blockCount(), 10);
+  for (QTextBlock line = text.begin(); line.isValid(); line = line.next()) {
+    const QString words = line.text().trimmed();
+    if (words.isEmpty()) continue;
+    EXPECT_GE(line.layout()->lineAt(0).textLength(), words.size()) << words.toStdString();
+  }
 }
 
 // The sides of a rectangle of the window, each by a point that lies on it near a corner.
