@@ -28,6 +28,8 @@ constexpr double kRowGap = 6;       // between rows
 constexpr double kLabelGap = 3;     // behind a label
 constexpr double kLabelWidth = 7;   // of one of its characters, about
 
+const QColor kTableLine(0xc8, 0xc8, 0xc8);
+
 void MakeRoomForLabel(QTextBlockFormat& style, int length) {
   // Where the first line hangs out, the label stands in that room.
   const double room =
@@ -104,7 +106,9 @@ void ParagraphDecoration::Draw(QPainter& painter, const QTextBlock& first, int b
   for (QTextBlock block = first; block.isValid(); block = block.next()) {
     if (layout.blockBoundingRect(block).top() > bottom) break;
     if (block.blockFormat().hasProperty(kLabelRoom)) DrawLabel(painter, block);
-    if (IsInTable(block)) DrawRow(painter, block);
+    if (!IsInTable(block)) continue;
+    DrawRow(painter, block);
+    DrawCellEnds(painter, block);
   }
 }
 
@@ -137,10 +141,38 @@ void ParagraphDecoration::DrawRow(QPainter& painter, const QTextBlock& block) co
     painter.fillRect(
         QRectF(block.document()->documentMargin(), y,
                block.document()->textWidth() - 2 * block.document()->documentMargin(), 1),
-        QColor(0xc8, 0xc8, 0xc8));
+        kTableLine);
   };
   if (!IsInTable(block.previous())) line(place.top() - kRowGap / 2 * scale);
   if (EndsRow(block) || !IsInTable(block.next())) line(place.bottom() + kRowGap / 2 * scale);
+}
+
+// A long cell runs over the next column: the line tells where it ends.
+void ParagraphDecoration::DrawCellEnds(QPainter& painter, const QTextBlock& block) const {
+  const double scale = ScaleOf(*block.document());
+  const QRectF row = block.document()->documentLayout()->blockBoundingRect(block);
+  const QTextLayout& layout = *block.layout();
+  const bool rightToLeft = block.blockFormat().layoutDirection() == Qt::RightToLeft;
+  const QString text = block.text();
+  for (qsizetype at = text.indexOf(u'\t'); at >= 0; at = text.indexOf(u'\t', at + 1)) {
+    const int behind = static_cast<int>(at) + 1;
+    if (behind == text.size() || !IsCellEnd(block.position() + behind - 1)) continue;
+    const QTextLine line = layout.lineForTextPosition(static_cast<int>(at));
+    const double x = layout.position().x() + line.cursorToX(behind) +
+                     (rightToLeft ? kCellGap : -kCellGap) * scale;
+    const bool first = line.lineNumber() == 0;
+    const bool last = line.lineNumber() == layout.lineCount() - 1;
+    const double top = first ? row.top() - kRowGap / 2 * scale : layout.position().y() + line.y();
+    const double bottom = last ? row.bottom() + kRowGap / 2 * scale
+                               : layout.position().y() + line.y() + line.height();
+    painter.fillRect(QRectF(x, top, 1, bottom - top), kTableLine);
+  }
+}
+
+bool ParagraphDecoration::IsCellEnd(int place) const {
+  const Position at = positions_.ToModel(place);
+  return at < document_.Length() &&
+         document_.Origins()[static_cast<std::size_t>(at)].kind == Origin::kCellEnd;
 }
 
 bool ParagraphDecoration::EndsRow(const QTextBlock& block) const {

@@ -1,5 +1,5 @@
 // What is drawn around paragraphs without being text: labels of lists in front of them, and lines
-// between the rows of tables. Columns of a table are tab stops.
+// between the rows and cells of tables. Columns of a table are tab stops.
 #pragma once
 
 #include <QString>
@@ -35,6 +35,8 @@ class ParagraphDecoration {
  private:
   void DrawLabel(QPainter& painter, const QTextBlock& block);
   void DrawRow(QPainter& painter, const QTextBlock& block) const;
+  void DrawCellEnds(QPainter& painter, const QTextBlock& block) const;
+  bool IsCellEnd(int place) const;  // a place in the widget
   bool EndsRow(const QTextBlock& block) const;
   QString LabelOf(const QTextBlock& block);
 

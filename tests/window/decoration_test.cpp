@@ -66,15 +66,27 @@ TEST_F(DecorationTest, CellsStandUnderEachOther) {
   EXPECT_EQ(CaretAt(13).left(), CaretAt(2).left()) << "the second paragraph of a cell";
   EXPECT_EQ(CaretAt(20).left(), CaretAt(2).left()) << "a cell that is set right";
   EXPECT_EQ(CaretAt(23).left(), 8) << "behind the table";
-  // A line between the rows.
-  const QRect gap(QPoint(200, CaretAt(0).bottom() + 1), QPoint(300, CaretAt(6).top() - 1));
-  const QImage image = View().viewport()->grab(gap).toImage();
-  int lines = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    lines += image.pixel(0, y) != image.pixel(0, 0) || image.pixel(50, y) != image.pixel(50, 0);
-  }
-  EXPECT_EQ(lines, 1);
   ExpectShown(window, form);
+}
+
+TEST_F(DecorationTest, LinesPartRowsAndCells) {
+  OpenText(R"(\trowd\cellx1500\cellx4500\intbl a\cell bb\cell\row )"
+           R"(\intbl longer than the column\cell b\cell\row\pard behind)");
+  const auto grey = [this](const QRect& place, QPoint step) {
+    const QImage image = View().viewport()->grab(place).toImage();
+    int lines = 0;
+    for (QPoint at(0, 0); image.rect().contains(at); at += step) {
+      lines += image.pixelColor(at) == QColor(0xc8, 0xc8, 0xc8);
+    }
+    return lines;
+  };
+  const QRect gap(QPoint(200, CaretAt(0).bottom() + 1), QPoint(300, CaretAt(6).top() - 1));
+  EXPECT_EQ(grey(gap, {0, 1}), 1);
+  for (const Position cell : {2, 29}) {
+    const QRect place = CaretAt(cell);
+    EXPECT_EQ(grey({place.left() - 12, place.top() + 3, 10, 1}, {1, 0}), 1) << cell;
+    EXPECT_EQ(grey({place.left() + 3, place.top() + 3, 100, 1}, {1, 0}), 0) << cell;
+  }
 }
 
 TEST_F(DecorationTest, SymbolsAreShownByTheCharactersThatLookLikeThem) {
