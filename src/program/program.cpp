@@ -170,7 +170,11 @@ bool Program::Key(Control& control, char32_t key, bool overAll) {
   if (line == nullptr) return false;
   // The Enter key means a line end in a box of several lines and nothing in one of one line.
   if (key == kParagraphEnd && !control.Row().stored.multiLine) return false;
-  *line = overAll ? std::u32string(1, key) : line->Get() + key;
+  if (overAll) {
+    *line = std::u32string(1, key);
+  } else {
+    *line += key;
+  }
   return true;
 }
 
