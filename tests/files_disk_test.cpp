@@ -266,11 +266,14 @@ TEST_F(PosixDiskTest, RefusesAWriteProtectedFileThoughItsFolderIsOpen) {
   }
   const std::string refusal = Refusal([&] { disk.Replace(Path("protected"), "x"); });
   const std::string appending = Refusal([&] { disk.AppendLine(Path("protected"), "x"); });
+  // It is there: nothing has to be made.
+  const std::string making = Refusal([&] { disk.CreateIfMissing(Path("protected")); });
   if (former == 0) {
     ASSERT_EQ(seteuid(former), 0);
   }
   EXPECT_NE(refusal, "no failure");
   EXPECT_NE(appending, "no failure");
+  EXPECT_EQ(making, "no failure");
   EXPECT_EQ(Get("protected"), "content");
   EXPECT_EQ(Names(), "protected ");
 }

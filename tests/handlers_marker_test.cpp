@@ -46,6 +46,18 @@ TEST_F(ManualMarker, DefineColoursTheSelectionAndTypesItIntoTheBox) {
   EXPECT_EQ(Buttons(form), "SetA Frame1");
 }
 
+TEST_F(ManualMarker, ATermComesBackAsItWasWhateverItsCharacters) {
+  const std::u32string term = U"+a^(%~)\r{b}\n[c]\t\u2028\U0001F600";
+  ShowText(term, std::string(term.size(), '.'));
+  Select(0, text.Length());
+  program.Click(form.DefAMarker);
+  EXPECT_TRUE(form.AMarkedString.Text == term);
+  program.Click(form.AMarkSet);
+  EXPECT_EQ(text.Text(), term);
+  EXPECT_EQ(Drawing(text), std::string(term.size(), 'a'));
+  EXPECT_FALSE(text.CanUndo());
+}
+
 TEST_F(ManualMarker, DefineWithoutASelectionOnlyMovesTheButtons) {
   Select(4, 0);
   program.Click(form.DefBMarker);

@@ -126,6 +126,7 @@ TEST(Player, BreaksOffAtWrongSteps) {
       {"value missing", "expect ID.Text"},
       {"no JSON", "expect ID.Text Tag-ID"},
       {"two values", "expect ID.Enabled true true"},
+      {"nested too deep", "expect ID.Text " + std::string(300000, '[') + std::string(300000, ']')},
       {"member missing", "expect ID \"x\""},
       {"unknown member", "expect AMarkSet.Text \"Set\""},
       {"unknown field", "expect WorkState.None null"},

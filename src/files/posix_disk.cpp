@@ -54,6 +54,11 @@ void Make(const std::string& path) {
   FlushFolderOf(TargetOf(path));
 }
 
+// Whether a file may not be opened for writing, while it may still be there to be read.
+bool IsWriteProtection(int reason) {
+  return reason == EACCES || reason == EPERM || reason == EROFS;
+}
+
 // Reserves room behind the file's end, so that a full disk shows before anything is written.
 void ReserveRoom(const Descriptor& file, const std::string& path, off_t at, std::size_t length) {
 #ifdef __linux__
@@ -148,6 +153,10 @@ void PosixDisk::CreateIfMissing(const std::string& path) {
     file.OrdinaryStatus();
   } else if (errno == ENOENT) {
     Make(path);
+  } else if (IsWriteProtection(errno)) {
+    const Descriptor there(path, O_RDONLY);
+    if (!there.IsOpen()) FailDisk(path, "opened");
+    there.OrdinaryStatus();
   } else {
     FailDisk(path, "opened");
   }

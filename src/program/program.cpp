@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "program/attach.h"
+#include "text/unicode.h"
 #include "workbench/failure.h"
 
 namespace quill {
@@ -13,7 +14,19 @@ Property<std::u32string>* EditLine(Control& control) {
   return nullptr;
 }
 
-bool IsEnter(char32_t key) { return key == U'\r' || key == U'\n'; }
+// A user's carriage return is the Enter key. In the text itself and in the program's own keystrokes
+// it is a character like others.
+char32_t UserKey(char32_t key) { return key == U'\r' ? kParagraphEnd : key; }
+
+// A text that a user pastes or drops, with every line end, CR LF, LF or CR, as a paragraph end.
+std::u32string WithParagraphEnds(std::u32string_view text) {
+  std::u32string ended;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isPair = text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == kParagraphEnd;
+    if (!isPair) ended += UserKey(text[i]);
+  }
+  return ended;
+}
 
 }  // namespace
 
@@ -95,7 +108,7 @@ void Program::GoInto(Control& control) {
 void Program::Type(Control& control, std::u32string_view text) {
   GoInto(control);
   for (const char32_t key : text) {
-    Run([&] { Key(control, key, false); });
+    Run([&] { Key(control, UserKey(key), false); });
   }
 }
 
@@ -107,7 +120,7 @@ void Program::Enter(Control& control, std::u32string_view text) {
   }
   bool overAll = true;
   for (const char32_t key : text) {
-    Run([&] { overAll = !Key(control, key, overAll) && overAll; });
+    Run([&] { overAll = !Key(control, UserKey(key), overAll) && overAll; });
   }
 }
 
@@ -131,7 +144,7 @@ void Program::DeleteInText(Range range) {
 }
 
 void Program::TypeInText(std::u32string_view text) {
-  Run([&] { form_.RichTextBox1.TypeOver(text); });
+  Run([&] { form_.RichTextBox1.TypeOver(WithParagraphEnds(text)); });
 }
 
 void Program::MoveInText(Range range, Position to) {
@@ -155,12 +168,13 @@ bool Program::Key(Control& control, char32_t key, bool overAll) {
   }
   Property<std::u32string>* const line = EditLine(control);
   if (line == nullptr) return false;
-  if (IsEnter(key)) {
-    // The Enter key means a line end in a box of several lines and nothing in one of one line.
-    if (!control.Row().stored.multiLine) return false;
-    key = U'\n';
+  // The Enter key means a line end in a box of several lines and nothing in one of one line.
+  if (key == kParagraphEnd && !control.Row().stored.multiLine) return false;
+  if (overAll) {
+    *line = std::u32string(1, key);
+  } else {
+    *line += key;
   }
-  *line = overAll ? std::u32string(1, key) : line->Get() + key;
   return true;
 }
 

@@ -8,8 +8,13 @@ template <class T>
 Property<T>& Property<T>::operator=(T value) {
   if (value == value_) return *this;
   value_ = std::move(value);
-  owner_.Written(id_);
+  Tell();
   return *this;
+}
+
+template <class T>
+void Property<T>::Tell() {
+  owner_.Written(id_);
 }
 
 template class Property<bool>;

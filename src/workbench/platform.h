@@ -41,7 +41,8 @@ class Disk {
   // Adds one line and its line end, CR LF. A file that is missing is made; a last line that lacks
   // its line end gets it first.
   virtual void AppendLine(const std::string& path, std::string_view line) = 0;
-  // Makes an empty file where there is none and leaves an existing one untouched.
+  // Makes an empty file where there is none and leaves an existing one untouched, which may be
+  // write-protected as long as it can be read.
   virtual void CreateIfMissing(const std::string& path) = 0;
 };
 

@@ -1,6 +1,8 @@
 // Members of controls that are written and read like variables.
 #pragma once
 
+#include <concepts>
+#include <string>
 #include <utility>
 
 #include "workbench/watcher.h"
@@ -19,11 +21,19 @@ class Property {
 
   Property& operator=(T value);
   Property& operator=(const Property& other) { return *this = other.value_; }
+  // As a write of the longer text, without the cost of its whole length.
+  Property& operator+=(char32_t character) requires std::same_as<T, std::u32string> {
+    value_ += character;
+    Tell();
+    return *this;
+  }
 
   const T& Get() const { return value_; }
   operator const T&() const { return value_; }
 
  private:
+  void Tell();
+
   Control& owner_;
   PropertyId id_;
   T value_;

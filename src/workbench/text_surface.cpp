@@ -35,21 +35,6 @@ AttributeChange AllOf(const Attributes& attributes) {
   return {attributes.colour, attributes.bold, attributes.underline, attributes.offset};
 }
 
-// What the keys of a text put into the document: the Enter key's carriage return ends a paragraph,
-// and NUL is no character.
-std::u32string Typed(std::u32string_view text) {
-  std::u32string typed;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char32_t c = text[i];
-    if (c == U'\r') {
-      if (i + 1 == text.size() || text[i + 1] != U'\n') typed += kParagraphEnd;
-    } else if (c != 0) {
-      typed += c;
-    }
-  }
-  return typed;
-}
-
 }  // namespace
 
 TextSurface::TextSurface(Form1& form, std::string_view name)
@@ -164,7 +149,8 @@ void TextSurface::UserSelects(Position start, Position length) {
 }
 
 void TextSurface::TypeOver(std::u32string_view text) {
-  const std::u32string typed = Typed(text);
+  std::u32string typed(text);
+  std::erase(typed, U'\0');
   if (typed.empty()) return;
   const Attributes attributes = TypingAttributes();
   const Range over = selection_;

@@ -79,8 +79,9 @@ class TextSurface : public Control {
 
   // Selects with mouse or keys; both ends are clamped.
   void UserSelects(Position start, Position length);
-  // Types over the selection as one edit. Characters typed again where they stood (the common
-  // beginning and end) stay the characters they were and take only the attributes.
+  // Types over the selection as one edit; NUL is no character. Characters typed again where they
+  // stood (the common beginning and end) stay the characters they were and take only the
+  // attributes.
   void TypeOver(std::u32string_view text);
   // Deletes a range as one edit.
   void UserDeletes(Range range);
