@@ -108,8 +108,10 @@ QColor BackgroundOf(const CatalogueRow& row) {
 }
 
 void SetLook(QApplication& application) {
+  // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
   QApplication::setStyle(new EdgeStyle);
   QApplication::setPalette(LightPalette());
+  // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
   application.setStyleSheet(QString());
   QFont font = ControlFont(0, false);
   font.setPixelSize(kMenuPixels);
