@@ -14,7 +14,12 @@ struct TagGeneration : testing::Test, Workbench {
     form.StartPosition.Text = U"5";
     form.EndPosition.Text = U"7";
     form.marked_term.Text = U"two";
+    form.ClassCombo.Text = U"lexematic";
     form.OperatorCombo.Text = U"a_operator";
+    form.ModeCombo.Text = U"absolute ";
+    form.TypeCombo.Text = U"at";
+    form.GranCombo.Text = U"d ";
+    form.ValBox.Text = U"1";
   }
 };
 
