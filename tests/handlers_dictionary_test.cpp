@@ -60,35 +60,6 @@ TEST(OperatorEntry, HasTwoForms) {
   }
 }
 
-TEST_F(DictionaryPanel, AnEntryGoesIntoTheListAndItsFile) {
-  const struct {
-    CommandButton& kind;
-    CommandButton& dictionary;
-    std::string path;
-    char32_t category;
-    Colour colour;
-  } table[] = {
-      {form.A_type_add, form.Add_to_global_dict, "globaldict.gdf", U'A', RGB(128, 128, 255)},
-      {form.B_type_add, form.Add_to_spec_dict, "road.spd", U'B', RGB(255, 0, 0)},
-  };
-  for (const auto& row : table) {
-    FillIn(U"sp\u00e4ter", U"afterwards");
-    EXPECT_EQ(Open(), "ABF");
-    program.Click(row.kind);
-    EXPECT_EQ(Open(), "ABgsF");
-    EXPECT_TRUE(form.add_to_dictionary.BackColor == row.colour);
-    program.Click(row.dictionary);
-    ExpectReset();
-    EXPECT_TRUE(form.add_to_dictionary.BackColor == RGB(255, 255, 255));
-    EXPECT_EQ(form.Focus(), &form.RichTextBox1);
-    EXPECT_EQ(form.Parse_listbox.List(form.Parse_listbox.ListCount() - 1),
-              std::u32string(U"sp\u00e4ter\\      |") + row.category + U"< afterwards >");
-    EXPECT_EQ(disk.files[row.path], std::string("sp\xC3\xA4ter\\            \\") +
-                                        static_cast<char>(row.category) + "< afterwards >\r\n");
-  }
-  EXPECT_EQ(disk.files.size(), 2U);
-}
-
 TEST_F(DictionaryPanel, ReservedCharactersAreRefused) {
   for (const char32_t* lemma : {U"\\", U"a|b", U"<", U"then>"}) {
     FillIn(lemma, U"lost");
@@ -132,16 +103,6 @@ TEST_F(DictionaryPanel, OneBlankIsNoLemma) {
   EXPECT_EQ(form.Parse_listbox.ListCount(), 2);
 }
 
-TEST_F(DictionaryPanel, AChangedLemmaLosesItsKindButNotTheButtons) {
-  FillIn(U"once", U"d");
-  program.Click(form.A_type_add);
-  program.Type(form.add_to_dictionary, U"more");
-  EXPECT_EQ(Open(), "ABgsF");
-  program.Click(form.Add_to_spec_dict);
-  // Going in wiped the box but for a blank.
-  EXPECT_TRUE(form.Parse_listbox.List(0) == U" more\\      | < d >");
-}
-
 TEST_F(DictionaryPanel, AFileThatCannotBeWrittenIsPassedOver) {
   disk.Refuse(DiskCall::kAppendLine, "globaldict.gdf");
   FillIn(U"then", U"d");
@@ -150,18 +111,6 @@ TEST_F(DictionaryPanel, AFileThatCannotBeWrittenIsPassedOver) {
   ExpectReset();
   EXPECT_EQ(form.Parse_listbox.ListCount(), 1);
   EXPECT_TRUE(dialogs.shown.empty());
-}
-
-TEST_F(DictionaryPanel, SetFillsItFromTheText) {
-  program.Select(4, 3);
-  program.Click(form.DefBMarker);
-  program.Click(form.BMarkSet);
-  EXPECT_TRUE(form.add_to_dictionary.Text == U"two");
-  EXPECT_TRUE(form.operator_category.Text == U"B");
-  EXPECT_EQ(Open(), "ABF");
-  program.Click(form.A_type_add);
-  program.Click(form.Add_to_spec_dict);
-  EXPECT_TRUE(form.Parse_listbox.List(0) == U"two\\      |A< Definition? >");
 }
 
 }  // namespace

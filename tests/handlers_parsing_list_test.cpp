@@ -69,36 +69,6 @@ TEST_F(ParsingList, ADictionaryThatCannotBeReadIsTold) {
               U"been added to the parsing list.");
 }
 
-TEST_F(ParsingList, TheOldestRemovalComesBackAndTheOthersAreGone) {
-  Read("a\nb\nc\nd\n");
-  program.Click(form.Parse_cull);
-  EXPECT_FALSE(form.Undo_Parse_Cull.Enabled);
-  Remove(1);
-  EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
-  // Removing raises no event: the last click's index stays.
-  EXPECT_EQ(form.WorkState.ParseIndex.Number(), 1);
-  Remove(0);
-  EXPECT_EQ(Items(), U"c;d;");
-  program.Click(form.Undo_Parse_Cull);
-  EXPECT_EQ(Items(), U"b;c;d;");
-  EXPECT_FALSE(form.Undo_Parse_Cull.Enabled);
-  EXPECT_EQ(form.TempList.ListCount(), 0);
-
-  Remove(2);
-  program.Click(form.Clear_list);
-  EXPECT_EQ(Items(), U"");
-  program.Click(form.Undo_Parse_Cull);
-  EXPECT_EQ(Items(), U"d;");
-}
-
-TEST_F(ParsingList, DeselectingKeepsNothingToSearchFor) {
-  Read("a\nb\n");
-  program.ClickItem(form.Parse_listbox, 1);
-  program.Click(form.Deselect_Parse_Cull);
-  EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
-  EXPECT_EQ(form.WorkState.ParseIndex.Number(), -1);
-}
-
 TEST_F(ParsingList, ReadingInOneGoIsAddingOneByOne) {
   std::mt19937 random(7);
   std::vector<std::u32string> lines;

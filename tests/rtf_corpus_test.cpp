@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <vector>
@@ -13,16 +11,11 @@
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "support/rich_text.h"
+#include "support/scenario_folder.h"
 
 namespace quill {
 namespace {
 
-std::string FileBytes(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// The real files, and a word to skip with where there are none.
 std::vector<std::filesystem::path> RealFiles() {
   std::vector<std::filesystem::path> files;
   std::error_code error;
@@ -59,7 +52,7 @@ std::vector<Range> SomeStretches(const Document& document, unsigned seed) {
 TEST_F(RealFile, ComesBackByteForByteAfterMarkingAndUnmarking) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());
-    const std::string bytes = FileBytes(path);
+    const std::string bytes = test::Contents(path);
     std::optional<Document> document = rtf::Read(bytes);
     ASSERT_TRUE(document);
     document->Check();
@@ -77,7 +70,7 @@ TEST_F(RealFile, ComesBackByteForByteAfterMarkingAndUnmarking) {
 TEST_F(RealFile, KeepsTextAndAttributesOfAMarkedSave) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());
-    std::optional<Document> document = rtf::Read(FileBytes(path));
+    std::optional<Document> document = rtf::Read(test::Contents(path));
     ASSERT_TRUE(document);
     for (const Range& range : SomeStretches(*document, 2)) Mark(*document, range, range.begin);
     const std::optional<Document> again = rtf::Read(rtf::Write(*document));
@@ -89,7 +82,7 @@ TEST_F(RealFile, KeepsTextAndAttributesOfAMarkedSave) {
 TEST_F(RealFile, DoesNotGrowByMarkingAndUnmarking) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());
-    std::optional<Document> document = rtf::Read(FileBytes(path));
+    std::optional<Document> document = rtf::Read(test::Contents(path));
     ASSERT_TRUE(document);
     if (document->Length() == 0) continue;
     const Document original = *document;
@@ -118,7 +111,7 @@ TEST_F(RealFile, DoesNotGrowByMarkingAndUnmarking) {
 TEST_F(RealFile, KeepsWhatWasTypedAndDeleted) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());
-    std::optional<Document> document = rtf::Read(FileBytes(path));
+    std::optional<Document> document = rtf::Read(test::Contents(path));
     ASSERT_TRUE(document);
     std::mt19937 random(4);
     for (int i = 0; i < 12; ++i) {
@@ -141,7 +134,7 @@ TEST_F(RealFile, LoadsAndSavesHoweverItIsCutOff) {
   std::mt19937 random(5);
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());
-    const std::string bytes = FileBytes(path);
+    const std::string bytes = test::Contents(path);
     for (int i = 0; i < 20; ++i) {
       const std::string cut = bytes.substr(0, random() % (bytes.size() + 1));
       std::optional<Document> document = rtf::Read(cut);

@@ -30,51 +30,9 @@ struct TagFlows : testing::Test, Workbench {
     form.TagList.Clear();
     for (const std::u32string& line : lines) form.TagList.AddItem(line);
   }
-  std::string Selected() const { return ToUtf8(text.SelText()); }
 };
 
 // --- Selection -------------------------------------------------------------------------------
-
-TEST_F(TagFlows, ALineComesBackWhole) {
-  Fill(
-      {U"t_op(2\\ 5\\ 7\\ two\\ S 1\\ anna\\ grammatic\\ b_operator\\ relative\\ same\\ year \\ "
-       U"Value ?\\ three\\ 9 \\ 13 )"});
-  program.ClickItem(form.TagList, 0);
-  EXPECT_TRUE(form.WorkState.CurrentTag == form.TagList.List(0));
-  const struct {
-    const std::u32string& found;
-    const char32_t* expected;
-  } kRows[] = {
-      {form.TaggedString.Text, form.TagList.List(0).c_str()},
-      {form.marked_term.Text, U"two"},
-      {form.ID.Text, U"2"},
-      {form.StartPosition.Text, U"5"},
-      {form.EndPosition.Text, U"7"},
-      {form.SessionID.Text, U"S 1"},
-      {form.UserID1.Text, U"anna"},
-      {form.ClassCombo.Text, U"grammatic"},
-      {form.OperatorCombo.Text, U"b_operator"},
-      {form.ModeCombo.Text, U"relative"},
-      {form.TypeCombo.Text, U"same"},
-      {form.GranCombo.Text, U"year "},
-      {form.ValBox.Text, U"Value ?"},
-      {form.RefBox.Text, U"three"},
-      {form.RefTagStart.Text, U"9"},
-      {form.RefTagStop.Text, U"13"},
-  };
-  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(row.found), ToUtf8(row.expected));
-  EXPECT_TRUE(form.RefFrame.Visible);
-  EXPECT_EQ(form.TaggedString.ForeColor.Get(), RGB(255, 0, 0));
-  EXPECT_EQ(Drawing(text),
-            "....____"
-            "_____....");
-  EXPECT_EQ(text.Selection(), (Range{4, 7}));
-  EXPECT_EQ(form.Focus(), &text);
-  EXPECT_EQ(form.TagList.ListIndex, 0);
-  EXPECT_TRUE(form.Generate_Tag.Enabled && form.RemoveItem.Enabled);
-  EXPECT_EQ(form.TypeCombo.ListCount(), 0) << "rows are the user's last pick";
-  EXPECT_TRUE(form.WorkState.TagStart.IsEmpty() && form.WorkState.TagEnd.IsEmpty());
-}
 
 TEST_F(TagFlows, WhatALineShowsInTheText) {
   const struct {
@@ -148,16 +106,6 @@ TEST_F(TagFlows, WhatALineShowsInTheText) {
     EXPECT_EQ(ToUtf8(form.RefTagStart.Text.Get()), ToUtf8(row.refStart)) << row.about;
     EXPECT_TRUE(form.TaggedString.Text == row.line) << row.about;
     EXPECT_EQ(form.TagList.ListIndex, 0) << row.about;
-  }
-}
-
-TEST_F(TagFlows, AnotherOperatorKeepsTheColourOfTheLine) {
-  Fill({Line(1, 3, U"one", U"a_operator"), Line(1, 3, U"one", U"b_operator"),
-        Line(1, 3, U"one", U"A_operator")});
-  const Colour expected[] = {RGB(0, 0, 255), RGB(255, 0, 0), RGB(255, 0, 0)};
-  for (int i = 0; i < 3; ++i) {
-    program.ClickItem(form.TagList, i);
-    EXPECT_EQ(form.TaggedString.ForeColor.Get(), expected[i]);
   }
 }
 
@@ -236,7 +184,7 @@ TEST_F(TagFlows, TheReferenceIsTheFirstLineAtTheCaret) {
       const TagSpan span = CutTagSpan(row.lines[static_cast<std::size_t>(row.found)]);
       EXPECT_TRUE(form.RefTagStart.Text == DecimalText(span.start));
       EXPECT_TRUE(form.RefTagStop.Text == DecimalText(span.end));
-      EXPECT_EQ(Selected(), "two");
+      EXPECT_TRUE(text.SelText() == U"two");
     } else {
       EXPECT_TRUE(form.RefBox.Text == selected);
       EXPECT_TRUE(form.RefTagStart.Text == U" " && form.RefTagStop.Text == U" ");
@@ -260,35 +208,6 @@ TEST_F(TagFlows, NothingIsFoundOutsidePostProcessingOrInAnEmptyText) {
   form.PostFrame.Visible = true;
   ShowText(U" ", ".");
   expectNothing();
-}
-
-TEST_F(TagFlows, ACheckWithoutATagDeselects) {
-  Fill({Line(5, 7, U"two")});
-  program.ClickItem(form.TagList, 0);
-  program.Select(12, 0);
-  program.Click(form.TagChecker);
-  EXPECT_TRUE(form.StartPosition.Text == U"Start");
-  EXPECT_FALSE(form.Generate_Tag.Enabled);
-  EXPECT_TRUE(form.RemoveItem.Enabled) << "keeps its state";
-  program.Click(form.RemoveItem);
-  EXPECT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_TRUE(dialogs.shown.empty());
-}
-
-TEST_F(TagFlows, AReferenceIsTheWholeTermOfTheTextAsItStands) {
-  ShowText(U"one two three two", ".................");
-  Fill({Line(9, 13, U"a former term"), Line(5, 7, U"two")});
-  program.ClickItem(form.TagList, 1);
-  form.ModeCombo.Text = U"relative";
-  form.ValBox.Text = U"x";  // runs the rules
-  program.Select(10, 2);
-  program.Click(form.RefTag);
-  EXPECT_TRUE(form.RefBox.Text == U"three");
-  EXPECT_EQ(Drawing(text), "........_____....");
-  EXPECT_EQ(Selected(), "two");
-  EXPECT_EQ(form.Focus(), &text);
-  EXPECT_EQ(form.TagList.ListIndex, 1) << "the tag stays under edit";
-  EXPECT_TRUE(form.Generate_Tag.Enabled);
 }
 
 // --- Removal ---------------------------------------------------------------------------------
@@ -352,47 +271,6 @@ TEST_F(TagFlows, RemovalLooksForTheSameWord) {
                                 : row.lines[static_cast<std::size_t>(row.removed)]));
     EXPECT_TRUE(form.TaggedString.Text ==
                 (row.other >= 0 ? form.TagList.List(row.other) : std::u32string(U" ")));
-  }
-}
-
-TEST_F(TagFlows, TheAnswerDecidesAboutTheFileAlone) {
-  const struct {
-    bool other;
-    int answer;
-    const char* file;
-    bool enabled;
-  } kRows[] = {
-      {true, 1, "t_op(1\\ 15\\ 17\\ two\\ ", false},
-      {true, 2, "as it was", true},
-      {false, 1, "", false},
-      {false, 2, "as it was", true},
-  };
-  for (const auto& row : kRows) {
-    ShowText(U"one two three two", "aaaaaaaaaaaaaaaaa");
-    text.SelStart = 4;
-    text.SelLength = 3;
-    text.SelCharOffset = 25;
-    text.SelBold = true;
-    text.SelUnderline = true;
-    Fill({Line(5, 7, U"two")});
-    if (row.other) form.TagList.AddItem(Line(15, 17, U"two", U"b_operator"));
-    program.ClickItem(form.TagList, 0);
-    disk.files["x.tlf"] = "as it was";
-    dialogs.shown.clear();
-    dialogs.answers = {row.answer};
-    program.Click(form.RemoveItem);
-    ASSERT_EQ(dialogs.shown.size(), 1U);
-    EXPECT_TRUE(dialogs.shown[0].prompt == U"Do you want to save this change?");
-    EXPECT_TRUE(dialogs.shown[0].title == U"Input required");
-    EXPECT_EQ(dialogs.shown[0].buttons, 33);
-    EXPECT_EQ(disk.files["x.tlf"].substr(0, 20), std::string(row.file).substr(0, 20));
-    EXPECT_EQ(form.RemoveItem.Enabled.Get(), row.enabled);
-    const Attributes& span = text.Doc().At(4);
-    EXPECT_EQ(span.offset, row.other ? 25 : 0);
-    EXPECT_EQ(span.bold, row.other);
-    EXPECT_EQ(span.colour, row.other ? RGB(0, 0, 255) : RGB(0, 0, 0));
-    EXPECT_TRUE(span.underline) << "no business of a removal";
-    EXPECT_EQ(text.Selection(), (row.other ? Range{14, 17} : Range{4, 7}));
   }
 }
 

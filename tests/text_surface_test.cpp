@@ -81,23 +81,6 @@ TEST_F(Surface, ReadsOneValueOrNone) {
   EXPECT_EQ(text_.SelBold.Get(), false);
 }
 
-TEST_F(Surface, RemembersAttributesForWhatIsTypedNext) {
-  Load("ab");
-  Select(1, 0);
-  text_.SelColor = RGB(255, 0, 0);
-  text_.SelBold = true;
-  program_.Type(text_, U"xy");
-  EXPECT_EQ(Dump(text_.Doc()), "a<c255 b>xy</>b");
-  Select(1, 0);
-  text_.SelBold = true;
-  text_.SelLength = 0;
-  program_.Type(text_, U"z");
-  EXPECT_EQ(Dump(text_.Doc()), "az<c255 b>xy</>b") << "a write of the selection forgets";
-  Select(0, 0);
-  program_.Type(text_, U"q");
-  EXPECT_EQ(Dump(text_.Doc()), "qaz<c255 b>xy</>b");
-}
-
 TEST_F(Surface, TypesOverASelectionAsOneEdit) {
   Load("{\\b one {\\footnote note}two} three");
   Select(0, 7);

@@ -15,18 +15,8 @@ class DecorationTest : public WindowTest {
  protected:
   // Whether something is painted in a rectangle of the text.
   bool IsPainted(const QRect& place) {
-    const QImage image = View().viewport()->grab(place).toImage();
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if (image.pixelColor(x, y).lightness() < 160) return true;
-      }
-    }
-    return false;
-  }
-  QRect CaretAt(Position at) {
-    QTextCursor cursor(View().document());
-    cursor.setPosition(static_cast<int>(at));
-    return View().cursorRect(cursor);
+    const auto isDark = [](const QColor& colour) { return colour.lightness() < 160; };
+    return !AreaOf(Painted(place), isDark).isEmpty();
   }
 };
 

@@ -14,9 +14,8 @@
 #include <QTimer>
 #include <QtTest>
 
-#include "program/program.h"
+#include "hands/shown_program.h"
 #include "support/fakes.h"
-#include "window/main_window.h"
 #include "window/window_dialogs.h"
 
 namespace quill::test {
@@ -90,7 +89,7 @@ TEST_F(MessageBoxTest, HasRoomForItsTitle) {
 }
 
 // The program on its real dialogs.
-class DialogsTest : public testing::Test {
+class DialogsTest : public testing::Test, protected ShownProgram<MemoryDisk, WindowDialogs> {
  protected:
   DialogsTest() {
     dialogs.Attach(window, form);
@@ -117,11 +116,6 @@ class DialogsTest : public testing::Test {
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   }
 
-  MemoryDisk disk;
-  WindowDialogs dialogs;
-  Program program{dialogs, disk};
-  Form1& form = program.Form();
-  MainWindow window{program};
   QTemporaryDir folder;
 };
 

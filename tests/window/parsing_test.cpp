@@ -57,17 +57,8 @@ class ParsingTest : public WindowTest {
     }
     const QPoint onScreen = viewport.mapToGlobal(place.topLeft());
     EXPECT_FALSE(box.frameGeometry().intersects(QRect(onScreen, place.size())));
-    EXPECT_TRUE(Paints(place, qRgb(192, 0, 192)));
-  }
-
-  bool Paints(const QRect& place, QRgb colour) {
-    const QImage image = View().viewport()->grab(place).toImage();
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if ((image.pixel(x, y) & 0xFFFFFFU) == (colour & 0xFFFFFFU)) return true;
-      }
-    }
-    return false;
+    const auto isAsked = [](const QColor& colour) { return colour == QColor(192, 0, 192); };
+    EXPECT_FALSE(AreaOf(Painted(place), isAsked).isEmpty());
   }
 
   Attributes At(Position position) const { return form.RichTextBox1.Doc().At(position); }

@@ -23,19 +23,11 @@ std::string GreenData(const char* format) {
 
 class PicturesTest : public WindowTest {
  protected:
-  bool IsNear(QRgb colour, QRgb other) {
-    return std::abs(qRed(colour) - qRed(other)) < 8 && std::abs(qGreen(colour) - qGreen(other)) < 8;
-  }
-  // The rectangle that holds all points of a colour.
   QRect Area(QRgb colour) {
-    const QImage image = View().viewport()->grab().toImage();
-    QRect area;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if (IsNear(image.pixel(x, y), colour)) area |= QRect(x, y, 1, 1);
-      }
-    }
-    return area;
+    return AreaOf(Painted(), [&](const QColor& found) {
+      return std::abs(found.red() - qRed(colour)) < 8 &&
+             std::abs(found.green() - qGreen(colour)) < 8;
+    });
   }
 };
 

@@ -100,32 +100,6 @@ TEST_F(TagsTest, AReferenceIsFarAwayAndTheTermComesBackIntoView) {
   ExpectShown(window, form);
 }
 
-TEST_F(TagsTest, TheFourEndsOfARemoval) {
-  const struct {
-    const char* term;
-    int start;
-    bool other;
-    int answer;
-  } kRows[] = {
-      {"two", 5, true, 1}, {"two", 5, true, 2}, {"one", 1, false, 1}, {"one", 1, false, 2}};
-  for (const auto& row : kRows) {
-    const std::string removed = TagLine(row.start, row.start + 2, row.term);
-    const std::string kept = TagLine(15, 17, "two", "b") + TagLine(3619, 3623, "Later");
-    OpenTags(removed + kept);
-    ClickRow("TagList", 0);
-    dialogs.answers = {row.answer};
-    Press("RemoveItem");
-    EXPECT_EQ(form.TagList.ListCount(), 2);
-    EXPECT_EQ(form.TagList.ListIndex, row.other ? 0 : -1);
-    EXPECT_EQ(form.RichTextBox1.Doc().At(row.start - 1).offset > 0, row.other);
-    EXPECT_EQ(form.RichTextBox1.Doc().At(14).colour, row.other ? RGB(255, 0, 0) : RGB(0, 0, 0));
-    EXPECT_EQ(disk.files["x.tlf"], row.answer == 1 ? kept : removed + kept);
-    EXPECT_EQ(Widget("RemoveItem").isEnabled(), row.answer == 2);
-    ExpectSelectionInView();
-    ExpectShown(window, form);
-  }
-}
-
 TEST_F(TagsTest, ALongListFollowsSingleChanges) {
   std::string lines;
   for (int i = 0; i < 1000; ++i) lines += TagLine(5, 7, "line " + std::to_string(i));

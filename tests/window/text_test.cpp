@@ -154,7 +154,7 @@ TEST_F(TextTest, MarksKeepTheirColourUnderTheHighlight) {
   OpenText(R"({\colortbl;\red255\green0\blue0;}\fs80\b\cf1 IIIIIIII\cf0  then)");
   PressAt(12);
   const auto red = [&] {
-    const QImage image = View().viewport()->grab().toImage();
+    const QImage image = Painted();
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
       for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == QColor(Qt::red);

@@ -19,4 +19,24 @@ void WindowTest::OpenText(const std::string& body) {
   Choose("mnuFileOpen");
 }
 
+QRect WindowTest::CaretAt(Position at) const {
+  QTextCursor cursor(View().document());
+  cursor.setPosition(static_cast<int>(at));
+  return View().cursorRect(cursor);
+}
+
+QImage WindowTest::Painted(const QRect& place) const {
+  return View().viewport()->grab(place).toImage();
+}
+
+QRect WindowTest::AreaOf(const QImage& image, const std::function<bool(const QColor&)>& wanted) {
+  QRect area;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (wanted(image.pixelColor(x, y))) area |= QRect(x, y, 1, 1);
+    }
+  }
+  return area;
+}
+
 }  // namespace quill::test

@@ -4,31 +4,33 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <functional>
 #include <string>
 
 #include "hands/hands.h"
-#include "program/program.h"
+#include "hands/shown_program.h"
 #include "support/fakes.h"
-#include "window/main_window.h"
 
 namespace quill::test {
 
-struct ShownProgram {
-  MemoryDisk disk;
-  ScriptedDialogs dialogs;
-  Program program{dialogs, disk};
-  Form1& form = program.Form();
-  MainWindow window{program};
-};
-
 // An action that no user could do fails the test.
-class WindowTest : public testing::Test, protected ShownProgram, protected Hands {
+class WindowTest : public testing::Test,
+                   protected ShownProgram<MemoryDisk, ScriptedDialogs>,
+                   protected Hands {
  protected:
   WindowTest();
 
   // Opens a rich text of that body, with a working copy of the proposed name, and closes the panel
   // over the text.
   void OpenText(const std::string& body);
+
+  // Where the text shows its caret, in the coordinates of its viewport.
+  QRect CaretAt(Position at) const;
+  // The text as it is painted, or a part of it.
+  QImage Painted(const QRect& place = {{0, 0}, QSize(-1, -1)}) const;
+  // The rectangle that holds all points of the wanted colours.
+  static QRect AreaOf(const QImage& image, const std::function<bool(const QColor&)>& wanted);
 };
 
 }  // namespace quill::test

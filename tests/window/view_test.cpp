@@ -18,11 +18,6 @@ namespace {
 
 class ViewTest : public WindowTest {
  protected:
-  QRect CaretAt(Position at) {
-    QTextCursor cursor(View().document());
-    cursor.setPosition(static_cast<int>(at));
-    return View().cursorRect(cursor);
-  }
   void Wheel(int angle) {
     const QPointF middle = View().viewport()->rect().center();
     QWheelEvent event(middle, View().viewport()->mapToGlobal(middle), {}, {0, angle}, Qt::NoButton,
@@ -32,19 +27,12 @@ class ViewTest : public WindowTest {
   std::string MarkAtCaret() const {
     return window.findChild<QLabel*>(QStringLiteral("MarkAtCaret"))->text().toStdString();
   }
-  QImage Painted(const QRect& place) { return View().viewport()->grab(place).toImage(); }
   // The rectangle of the points of a colour in a stretch of one line.
   QRect Area(Position begin, Position end, QRgb colour) {
     const QRect place(CaretAt(begin).topRight() + QPoint(2, -8),
                       CaretAt(end).bottomLeft() + QPoint(-2, 8));
-    const QImage image = Painted(place);
-    QRect area;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if ((image.pixel(x, y) | 0xFF000000U) == colour) area |= QRect(x, y, 1, 1);
-      }
-    }
-    return area.translated(place.topLeft());
+    const auto wanted = [&](const QColor& found) { return found.rgb() == colour; };
+    return AreaOf(Painted(place), wanted).translated(place.topLeft());
   }
 };
 
@@ -175,16 +163,6 @@ TEST_F(ViewTest, LinesOfTwoDirections) {
   Key(Qt::Key_Left);
   Keys("x");
   EXPECT_EQ(form.RichTextBox1.Length(), 17);
-  ExpectShown(window, form);
-}
-
-TEST_F(ViewTest, TheMiddleButtonPastesTheSelectionOfTheDesktop) {
-  QClipboard& clipboard = *QApplication::clipboard();
-  if (!clipboard.supportsSelection()) GTEST_SKIP() << "this platform has no such selection";
-  OpenText("one two");
-  clipboard.setText(QStringLiteral("by "), QClipboard::Selection);
-  QTest::mouseClick(View().viewport(), Qt::MiddleButton, {}, CaretAt(4).center());
-  EXPECT_EQ(form.RichTextBox1.Text(), U"one by two");
   ExpectShown(window, form);
 }
 

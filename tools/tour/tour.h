@@ -8,23 +8,13 @@
 #include "files/posix_disk.h"
 #include "hands/dialog_hands.h"
 #include "hands/hands.h"
-#include "program/program.h"
+#include "hands/shown_program.h"
 #include "tour/album.h"
-#include "window/main_window.h"
 #include "window/window_dialogs.h"
 
 namespace quill::tour {
 
-// A program on the disk of the machine, shown.
-struct ShownProgram {
-  PosixDisk disk;
-  WindowDialogs dialogs;
-  Program program{dialogs, disk};
-  Form1& form = program.Form();
-  MainWindow window{program};
-};
-
-class Tour : private ShownProgram, private Hands {
+class Tour : private ShownProgram<PosixDisk, WindowDialogs>, private Hands {
  public:
   // The folder holds the-ferry.rtf and globaldict.gdf and must be the current one. What the tour
   // saves is written there.
