@@ -6,7 +6,10 @@
 #include <QScrollBar>
 #include <QStyleHints>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <QToolTip>
+#include <algorithm>
+#include <cmath>
 
 #include "window/document_view.h"
 #include "window/mark_names.h"
@@ -18,6 +21,21 @@ namespace {
 const QColor kHighlight(0xbf, 0xdb, 0xfa);
 const QColor kHighlightWithoutFocus(0xd5, 0xe2, 0xf0);
 
+// What of a line is selected, from its first to its last selected character.
+QRect SelectedPart(const QTextBlock& block, const QTextLine& line, const QTextCursor& cursor) {
+  const int first = line.textStart();
+  const int last = first + line.textLength();
+  const int begin = std::clamp(cursor.selectionStart() - block.position(), first, last);
+  const int end = std::clamp(cursor.selectionEnd() - block.position(), first, last);
+  if (begin == end) return {};
+  const double from = line.cursorToX(begin);
+  const double to = line.cursorToX(end);
+  const QPointF place = block.layout()->position();
+  return QRectF(place.x() + std::min(from, to), place.y() + line.y(), std::abs(to - from),
+                line.height())
+      .toAlignedRect();
+}
+
 }  // namespace
 
 void DocumentView::paintEvent(QPaintEvent* event) {
@@ -25,7 +43,8 @@ void DocumentView::paintEvent(QPaintEvent* event) {
   const QPoint offset(horizontalScrollBar()->value(), verticalScrollBar()->value());
   painter.translate(-offset);
   const QRect clip = event->rect().translated(offset);
-  painter.setClipRect(clip);
+  const QRegion above = AboveSelection(clip);
+  painter.setClipRegion(QRegion(clip) - above);
   QAbstractTextDocumentLayout::PaintContext context;
   context.clip = clip;
   context.palette = palette();
@@ -37,9 +56,41 @@ void DocumentView::paintEvent(QPaintEvent* event) {
     context.selections.append(selection);
   }
   document()->documentLayout()->draw(&painter, context);
+  if (!above.isEmpty()) {
+    context.selections.clear();
+    painter.setClipRegion(above);
+    document()->documentLayout()->draw(&painter, context);
+  }
+  painter.setClipRect(clip);
   const QTextCursor top = cursorForPosition(event->rect().topLeft());
   decoration_.Draw(painter, top.block().previous().isValid() ? top.block().previous() : top.block(),
                    clip.bottom());
+}
+
+// Raised characters stand out of the top of their line. There the toolkit cuts off the selected
+// ones, and in the first line of a paragraph with a selection all. These strips are painted by
+// themselves, as if nothing were selected.
+QRegion DocumentView::AboveSelection(const QRect& clip) const {
+  const QTextCursor cursor = textCursor();
+  const QTextBlock seen = cursorForPosition(QPoint(0, 0)).block();
+  QTextBlock block = document()->findBlock(cursor.selectionStart());
+  if (block < seen) block = seen;
+  QRegion selected;
+  QRegion above;
+  for (; block.isValid() && block.position() < cursor.selectionEnd(); block = block.next()) {
+    const int top = static_cast<int>(std::floor(block.layout()->position().y()));
+    if (top > clip.bottom() + clip.height()) break;
+    if (block.layout()->lineCount() == 0) continue;
+    const int height = static_cast<int>(block.layout()->lineAt(0).height());
+    above += QRect(clip.left(), top - height, clip.width(), height);
+    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+      const QRect part = SelectedPart(block, block.layout()->lineAt(i), cursor);
+      if (part.isEmpty()) continue;
+      selected += part;
+      above += part.translated(0, -part.height());
+    }
+  }
+  return (above - selected) & clip;
 }
 
 int DocumentView::CaretPosition() const {

@@ -104,6 +104,7 @@ class DocumentView final : public QTextEdit {
   bool IsMovement(QKeyEvent* event) const;
   void ShowPreedit(const QInputMethodEvent& event);
   void RestartCaret();
+  QRegion AboveSelection(const QRect& clip) const;
   int CaretPosition() const;
   bool IsOwnDrag(const QDropEvent& event) const;
 
