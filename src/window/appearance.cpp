@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "window/edges.h"
 
@@ -75,9 +76,25 @@ QPalette LightPalette() {
   return palette;
 }
 
-QFont Stretched(QFont font, int percent) {
-  font.setStretch(percent);
-  return font;
+// The font, narrowed as far as needed to meet the condition; none if that is not enough.
+template <class Condition>
+std::optional<QFont> Narrowed(QFont font, const Condition& fits) {
+  for (const int stretch : kStretches) {
+    font.setStretch(stretch);
+    if (fits(font)) return font;
+  }
+  return std::nullopt;
+}
+
+// The same, made smaller where narrowing is not enough, as far as it can be read.
+template <class Condition>
+QFont Fitted(QFont font, const Condition& fits) {
+  for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
+    font.setPixelSize(pixels);
+    if (const std::optional<QFont> narrowed = Narrowed(font, fits)) return *narrowed;
+  }
+  font.setPixelSize(kSmallestPixels);
+  return Narrowed(font, fits).value_or(font);
 }
 
 }  // namespace
@@ -133,36 +150,24 @@ bool Fits(const QFont& font, const QString& text, QSize room) {
   return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
-QFont FittingFont(QFont font, const QString& text, QSize room) {
-  for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
-    font.setPixelSize(pixels);
-    if (Fits(font, text, room)) return font;
-  }
-  font.setPixelSize(kSmallestPixels);
-  return font;
+QFont FittingFont(const QFont& font, const QString& text, QSize room) {
+  return Fitted(font, [&](const QFont& tried) { return Fits(tried, text, room); });
 }
 
-QFont UnbrokenFont(QFont font, const QString& text, int width) {
+QFont UnbrokenFont(const QFont& font, const QString& text, int width) {
   const QStringList lines = text.split(QLatin1Char('\n'));
-  const auto fits = [&](const QString& line) {
-    return QFontMetrics(font).horizontalAdvance(line.trimmed()) <= width;
-  };
-  for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
-    font.setPixelSize(pixels);
-    for (const int stretch : kStretches) {
-      font = Stretched(font, stretch);
-      if (std::all_of(lines.begin(), lines.end(), fits)) return font;
-    }
-  }
-  return font;
+  return Fitted(font, [&](const QFont& tried) {
+    const QFontMetrics metrics(tried);
+    return std::all_of(lines.begin(), lines.end(), [&](const QString& line) {
+      return metrics.horizontalAdvance(line.trimmed()) <= width;
+    });
+  });
 }
 
 Caption LayCaption(const QFont& font, const QString& text, const QRect& face) {
   const QRect wide = face.adjusted(5, 1, -5, -1);
-  for (const int stretch : kStretches) {
-    const QFont narrower = Stretched(font, stretch);
-    if (Fits(narrower, text, wide.size())) return {narrower, wide};
-  }
+  const auto fits = [&](const QFont& tried) { return Fits(tried, text, wide.size()); };
+  if (const std::optional<QFont> narrowed = Narrowed(font, fits)) return {*narrowed, wide};
   // Rather a narrow margin than small type.
   const QRect narrow = face.adjusted(2, 1, -2, -1);
   return {FittingFont(font, text, narrow.size()), narrow};

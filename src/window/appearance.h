@@ -38,12 +38,12 @@ inline QFont FontOf(const CatalogueRow& row) {
   return ControlFont(row.stored.points, row.stored.bold);
 }
 
-// The font, made smaller as far as needed (and as can be read) for the wrapped text to fit.
-QFont FittingFont(QFont font, const QString& text, QSize room);
+// The font, narrowed and then made smaller as far as needed (and as can be read) for the wrapped
+// text to fit.
+QFont FittingFont(const QFont& font, const QString& text, QSize room);
 
-// The font, narrowed and made smaller as far as needed (and as can be read) for the text's lines to
-// stay unbroken in that width. Blanks around a line don't count.
-QFont UnbrokenFont(QFont font, const QString& text, int width);
+// The same for the text's lines to stay unbroken in that width. Blanks around a line don't count.
+QFont UnbrokenFont(const QFont& font, const QString& text, int width);
 
 // Whether the text, wrapped between words, shows whole in that room.
 bool Fits(const QFont& font, const QString& text, QSize room);

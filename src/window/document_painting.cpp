@@ -72,23 +72,28 @@ void DocumentView::paintEvent(QPaintEvent* event) {
 // themselves, as if nothing were selected.
 QRegion DocumentView::AboveSelection(const QRect& clip) const {
   const QTextCursor cursor = textCursor();
-  const QTextBlock seen = cursorForPosition(QPoint(0, 0)).block();
-  QTextBlock block = document()->findBlock(cursor.selectionStart());
-  if (block < seen) block = seen;
+  if (!cursor.hasSelection()) return {};
+  const QTextBlock first = document()->findBlock(cursor.selectionStart());
+  const QTextBlock last = cursorForPosition(viewport()->rect().bottomRight()).block();
+  QTextBlock block = cursorForPosition(QPoint(0, 0)).block();
+  if (block < first) block = first;
   QRegion selected;
   QRegion above;
   for (; block.isValid() && block.position() < cursor.selectionEnd(); block = block.next()) {
-    const int top = static_cast<int>(std::floor(block.layout()->position().y()));
-    if (top > clip.bottom() + clip.height()) break;
-    if (block.layout()->lineCount() == 0) continue;
-    const int height = static_cast<int>(block.layout()->lineAt(0).height());
-    above += QRect(clip.left(), top - height, clip.width(), height);
-    for (int i = 0; i < block.layout()->lineCount(); ++i) {
-      const QRect part = SelectedPart(block, block.layout()->lineAt(i), cursor);
-      if (part.isEmpty()) continue;
+    const QTextLayout& layout = *block.layout();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      const QTextLine line = layout.lineAt(i);
+      const int top = static_cast<int>(std::floor(layout.position().y() + line.y()));
+      const int height = static_cast<int>(std::ceil(line.height()));
+      // Lines far from what is painted: a paragraph may have very many.
+      if (top + height < clip.top()) continue;
+      if (top - height > clip.bottom()) break;
+      if (i == 0) above += QRect(clip.left(), top - height, clip.width(), height);
+      const QRect part = SelectedPart(block, line, cursor);
       selected += part;
       above += part.translated(0, -part.height());
     }
+    if (block == last) break;
   }
   return (above - selected) & clip;
 }

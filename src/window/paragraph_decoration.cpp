@@ -150,35 +150,35 @@ void ParagraphDecoration::DrawRow(QPainter& painter, const QTextBlock& block) co
 // A long cell runs over the next column: the line tells where it ends.
 void ParagraphDecoration::DrawCellEnds(QPainter& painter, const QTextBlock& block) const {
   const double scale = ScaleOf(*block.document());
+  const QRectF clip = painter.clipBoundingRect();
   const QRectF row = block.document()->documentLayout()->blockBoundingRect(block);
   const QTextLayout& layout = *block.layout();
   const bool rightToLeft = block.blockFormat().layoutDirection() == Qt::RightToLeft;
+  const double gap = (rightToLeft ? kCellGap : -kCellGap) * scale;
   const QString text = block.text();
-  for (qsizetype at = text.indexOf(u'\t'); at >= 0; at = text.indexOf(u'\t', at + 1)) {
-    const int behind = static_cast<int>(at) + 1;
-    if (behind == text.size() || !IsCellEnd(block.position() + behind - 1)) continue;
-    const QTextLine line = layout.lineForTextPosition(static_cast<int>(at));
-    const double x = layout.position().x() + line.cursorToX(behind) +
-                     (rightToLeft ? kCellGap : -kCellGap) * scale;
-    const bool first = line.lineNumber() == 0;
-    const bool last = line.lineNumber() == layout.lineCount() - 1;
-    const double top = first ? row.top() - kRowGap / 2 * scale : layout.position().y() + line.y();
-    const double bottom = last ? row.bottom() + kRowGap / 2 * scale
-                               : layout.position().y() + line.y() + line.height();
-    painter.fillRect(QRectF(x, top, 1, bottom - top), kTableLine);
+  for (int i = 0; i < layout.lineCount(); ++i) {
+    const QTextLine line = layout.lineAt(i);
+    QRectF place = line.rect().translated(layout.position());
+    if (i == 0) place.setTop(row.top() - kRowGap / 2 * scale);
+    if (i == layout.lineCount() - 1) place.setBottom(row.bottom() + kRowGap / 2 * scale);
+    if (place.bottom() < clip.top()) continue;
+    if (place.top() > clip.bottom()) break;
+    const int end = line.textStart() + line.textLength();
+    for (int at = line.textStart(); at < end && at + 1 < text.size(); ++at) {
+      if (text[at] != u'\t' || !Is(Origin::kCellEnd, block.position() + at)) continue;
+      const double x = layout.position().x() + line.cursorToX(at + 1) + gap;
+      painter.fillRect(QRectF(x, place.top(), 1, place.height()), kTableLine);
+    }
   }
 }
 
-bool ParagraphDecoration::IsCellEnd(int place) const {
-  const Position at = positions_.ToModel(place);
-  return at < document_.Length() &&
-         document_.Origins()[static_cast<std::size_t>(at)].kind == Origin::kCellEnd;
+bool ParagraphDecoration::EndsRow(const QTextBlock& block) const {
+  return Is(Origin::kRowEnd, block.position() + block.length() - 1);
 }
 
-bool ParagraphDecoration::EndsRow(const QTextBlock& block) const {
-  const Position end = positions_.ToModel(block.position() + block.length() - 1);
-  return end < document_.Length() &&
-         document_.Origins()[static_cast<std::size_t>(end)].kind == Origin::kRowEnd;
+bool ParagraphDecoration::Is(Origin::Kind kind, int place) const {
+  const Position at = positions_.ToModel(place);
+  return at < document_.Length() && document_.Origins()[static_cast<std::size_t>(at)].kind == kind;
 }
 
 QString ParagraphDecoration::LabelOf(const QTextBlock& block) {

@@ -36,8 +36,9 @@ class ParagraphDecoration {
   void DrawLabel(QPainter& painter, const QTextBlock& block);
   void DrawRow(QPainter& painter, const QTextBlock& block) const;
   void DrawCellEnds(QPainter& painter, const QTextBlock& block) const;
-  bool IsCellEnd(int place) const;  // a place in the widget
   bool EndsRow(const QTextBlock& block) const;
+  // What the character at a place of the widget's text was in the file.
+  bool Is(Origin::Kind kind, int place) const;
   QString LabelOf(const QTextBlock& block);
 
   const Document& document_;

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QHash>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -27,9 +28,14 @@ int ShownHalfPoints(const CharacterLook& look) {
 }
 
 // Itself, or what the desktop's font settings put in its place. In a list of families the toolkit
-// would pass over one that is not installed.
+// would pass over one that is not installed. To ask takes long, and many formats share a typeface.
 QString Installed(const QString& family) {
-  return QFontDatabase::hasFamily(family) ? family : QFontInfo(QFont(family)).family();
+  static QHash<QString, QString> known;
+  QString& installed = known[family];
+  if (installed.isEmpty()) {
+    installed = QFontDatabase::hasFamily(family) ? family : QFontInfo(QFont(family)).family();
+  }
+  return installed;
 }
 
 // The families for what the text's own lacks. The toolkit takes characters that many scripts share,
