@@ -1,6 +1,7 @@
 # The Debian packages that the program, its tests and its checks need. Sourced, not run.
 
-program_packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libicu-dev nlohmann-json3-dev"
+program_packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libicu-dev nlohmann-json3-dev \
+  libcli11-dev libpugixml-dev"
 # What an open window needs besides: Wayland sessions, and typefaces: those of everyday texts, which
 # have Greek, Cyrillic, Hebrew and Arabic too, Chinese, Japanese and Korean, and symbols.
 window_packages="qt6-wayland fonts-dejavu-core fonts-liberation fonts-wqy-microhei fonts-symbola"

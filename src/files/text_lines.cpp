@@ -11,15 +11,21 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-std::vector<std::u32string> DecodeLines(std::string_view bytes) {
+std::vector<std::string_view> SplitLines(std::string_view bytes) {
   if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-  std::vector<std::u32string> lines;
+  std::vector<std::string_view> lines;
   while (!bytes.empty()) {
     const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
-    lines.push_back(DecodeLine(bytes.substr(0, end)));
+    lines.push_back(bytes.substr(0, end));
     bytes.remove_prefix(end);
     bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : bytes.empty() ? 0 : 1);
   }
+  return lines;
+}
+
+std::vector<std::u32string> DecodeLines(std::string_view bytes) {
+  std::vector<std::u32string> lines;
+  for (const std::string_view line : SplitLines(bytes)) lines.push_back(DecodeLine(line));
   return lines;
 }
 

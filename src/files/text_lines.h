@@ -10,7 +10,11 @@
 
 namespace quill {
 
-// The lines of a file. A line end at the end of the file begins no further line.
+// The lines of a file as views into its bytes, without line ends and byte order mark. A line end at
+// the end of the file begins no further line.
+std::vector<std::string_view> SplitLines(std::string_view bytes);
+
+// The same lines, decoded.
 std::vector<std::u32string> DecodeLines(std::string_view bytes);
 
 // The bytes of one line, without its line end. A paragraph end inside it becomes CR LF, so that the

@@ -1,0 +1,36 @@
+// Where results go: standard output, or files that are checked before the first is written, and
+// replaced, never written in place.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "companion/console.h"
+#include "companion/options.h"
+
+namespace quill::companion {
+
+// Throws StatementFailed where one of the files may not be written: it is an input of the call,
+// stands twice among the outputs, is there already (unless with --force), or has no folder that
+// takes it.
+void CheckOutputs(const std::vector<std::string>& paths, const Options& options);
+
+// Writes a file that was checked.
+void WriteOutput(const std::string& path, std::string_view bytes);
+
+// The one result of a command, to standard output as it comes, or to a file when it is finished.
+class Output {
+ public:
+  // Checks the file.
+  Output(const Options& options, Console& console);
+  void Write(std::string_view bytes);
+  void Finish();
+
+ private:
+  const std::string& path_;
+  Console& console_;
+  std::string bytes_;
+};
+
+}  // namespace quill::companion
