@@ -69,6 +69,24 @@ std::string Difference(const Document& expected, const Document& actual) {
   return "";
 }
 
+bool SameButForColours(const Document& original, std::string_view bytes) {
+  const Source& source = original.GetSource();
+  std::vector<Offset> places = {source.colours.end};
+  if (source.colours.expandedEnd != 0) places.push_back(source.colours.expandedEnd);
+  std::sort(places.begin(), places.end());
+  std::string_view rest = source.bytes;
+  Offset passed = 0;
+  for (const Offset place : places) {
+    const std::string_view piece = rest.substr(0, place - passed);
+    const std::size_t at = passed == 0 ? 0 : bytes.find(piece);
+    if (at == std::string_view::npos || bytes.substr(at, piece.size()) != piece) return false;
+    bytes.remove_prefix(at + piece.size());
+    rest.remove_prefix(piece.size());
+    passed = place;
+  }
+  return bytes.ends_with(rest);
+}
+
 std::vector<Attributes> AttributesOf(const Document& document, Range range) {
   std::vector<Attributes> attributes;
   attributes.reserve(static_cast<std::size_t>(range.Length()));
@@ -100,13 +118,12 @@ void Mark(Document& document, Range range, Position seed) {
   document.Apply(range, kLooks[static_cast<std::size_t>(seed) % std::size(kLooks)]);
 }
 
-std::vector<Range> MarkWords(Document& document) {
+std::vector<Range> MarkWords(Document& document, std::size_t every) {
   static const AttributeChange kLooks[] = {{.colour = RGB(0, 0, 255), .bold = true},
                                            {.colour = RGB(255, 0, 0)},
                                            {.underline = true},
                                            {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
                                            {.colour = RGB(128, 128, 255), .bold = true}};
-  constexpr std::size_t kEvery = 3;
   std::vector<Range> marks;
   const std::u32string& text = document.Text();
   std::size_t words = 0;
@@ -114,7 +131,7 @@ std::vector<Range> MarkWords(Document& document) {
   while ((word = std::find_if(word, text.end(), IsLetter)) != text.end()) {
     const auto end = std::find_if_not(word, text.end(), IsLetter);
     const Range range{word - text.begin(), end - text.begin()};
-    if (words++ % kEvery == 0 &&
+    if (words++ % every == 0 &&
         !document.Apply(range, kLooks[marks.size() % std::size(kLooks)]).empty()) {
       marks.push_back(range);
     }

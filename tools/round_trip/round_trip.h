@@ -2,7 +2,9 @@
 // checking tool and the fuzz targets share.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "text/document.h"
@@ -13,6 +15,10 @@ namespace quill {
 // them), or in the rest of its look. Empty where they do not.
 std::string Difference(const Document& expected, const Document& actual);
 
+// Whether the bytes are those that the original was read from, but for what was appended to their
+// tables of colours.
+bool SameButForColours(const Document& original, std::string_view bytes);
+
 // The attributes of every character of a range, for Restore.
 std::vector<Attributes> AttributesOf(const Document& document, Range range);
 void Restore(Document& document, Range range, const std::vector<Attributes>& attributes);
@@ -20,8 +26,8 @@ void Restore(Document& document, Range range, const std::vector<Attributes>& att
 // Gives a range one of the looks that marks have, by the seed.
 void Mark(Document& document, Range range, Position seed);
 
-// Marks every third word, a letter or more, with the looks of marks in turn, so that something of
-// it changes. Returns the words.
-std::vector<Range> MarkWords(Document& document);
+// Marks every so many words, a letter or more, with the looks of marks in turn, so that something
+// of it changes. Returns the words.
+std::vector<Range> MarkWords(Document& document, std::size_t every = 3);
 
 }  // namespace quill
