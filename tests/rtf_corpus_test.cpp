@@ -79,6 +79,26 @@ TEST_F(RealFile, KeepsTextAndAttributesOfAMarkedSave) {
   }
 }
 
+// Every word, with all four attributes other than they were; what is left is all that the file
+// said.
+TEST_F(RealFile, ComesBackFromMarkedSavesButForItsColours) {
+  for (const auto& path : RealFiles()) {
+    SCOPED_TRACE(path.filename().string());
+    const std::optional<Document> original = rtf::Read(test::Contents(path));
+    ASSERT_TRUE(original);
+    if (!original->GetSource().wellFormed) continue;
+    const Range all{0, original->Length()};
+    Document document = *original;
+    for (const Range& word : MarkWords(document, 1)) {
+      const Attributes& now = original->At(word.begin);
+      document.Apply(word, {RGB(1, 2, 3), !now.bold, !now.underline, now.offset + 40});
+    }
+    document = *rtf::Read(rtf::Write(document));
+    Restore(document, all, AttributesOf(*original, all));
+    EXPECT_TRUE(SameButForColours(*original, rtf::Write(document)));
+  }
+}
+
 TEST_F(RealFile, DoesNotGrowByMarkingAndUnmarking) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());

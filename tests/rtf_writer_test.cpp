@@ -64,6 +64,70 @@ TEST(RtfWriter, TakesMarksOffAgain) {
             "{\\rtf1" + kTable + "a{\\cf1\\b {\\cf0\\b0 b}{\\up3 c}d}e}");
   EXPECT_EQ(Marked("{\\rtf1" + kTable + "\\cf1 a}", {0, 1}, kPlain),
             "{\\rtf1" + kTable + "\\cf1 {\\cf0 a}}");
+  // Black from behind the end of the table keeps its number when the table reaches there.
+  const std::string black =
+      Marked("{\\rtf1{\\colortbl\\red9;}\\cf0 a\\cf2 b}", {0, 1}, {.colour = 0});
+  EXPECT_EQ(Marked(Marked(black, {1, 2}), {0, 2}, {.colour = 9, .bold = false}),
+            "{\\rtf1{\\colortbl\\red9;\\red0\\green0\\blue0;\\red0\\green0\\blue0;"
+            "\\red0\\green0\\blue255;}\\cf0 a\\cf2 {\\cf0 b}}");
+}
+
+// The words of the four attributes, alone and together, in every spelling.
+std::vector<std::string> AttributeWords() {
+  std::vector<std::string> words;
+  for (const char* underline :
+       {"ul",         "uld",       "uldash",     "uldashd", "uldashdd", "uldb", "ulhair",
+        "ulhwave",    "ulldash",   "ulth",       "ulthd",   "ulthdash", "ulw",  "ulthdashd",
+        "ulthdashdd", "ulthldash", "ululdbwave", "ulwave",  "ulnone",   "ul0",  "uldb0"}) {
+    words.push_back("\\" + std::string(underline));
+  }
+  for (const char* word :
+       {"\\b",   "\\b0",  "\\b1",   "\\b2",   "\\up",    "\\up0", "\\up3",  "\\up03",
+        "\\dn",  "\\dn4", "\\up-4", "\\cf0",  "\\cf",    "\\cf1", "\\cf01", "\\cf2",
+        "\\cf3", "\\cf4", "\\cf9",  "\\cf-1", "\\plain", "\\i"}) {
+    words.emplace_back(word);
+  }
+  const std::vector<std::string> single = words;
+  for (const std::string& word : single) {
+    words.push_back("\\b" + word);
+    words.push_back(word + "\\cf1");
+    words.push_back(word + " \\ul");
+    words.push_back("\\rtlch" + word);
+    words.push_back(word + " {\\up03 x}");
+  }
+  return words;
+}
+
+// Only what a save put in is taken out again: an author's groups stay as they are spelt.
+TEST(RtfWriter, LeavesForeignGroupsAsTheyAreSpelt) {
+  const std::string table =
+      "{\\colortbl;\\red0\\green0\\blue255;\\red255\\green0\\blue0;\\red0\\green0\\blue255;"
+      "\\red0\\green0\\blue0;}";
+  const std::vector<AttributeChange> marks = {
+      kBlue,
+      kPlain,
+      {.underline = true},
+      {.underline = false},
+      {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
+      {.colour = RGB(192, 0, 192), .bold = true, .underline = true}};
+  for (const std::string outside : {"", "\\b ", "\\cf1 ", "\\uldb ", "\\rtlch\\ab "}) {
+    for (const std::string& words : AttributeWords()) {
+      for (const char* const end : {" ", "\n", "  "}) {
+        const std::string body = outside + "a{" + words + end + "two words}\\par b}";
+        const Document original = *rtf::Read("{\\rtf1" + table + body);
+        for (const Range range : {Range{1, original.Length() - 2}, Range{2, 4}, Range{0, 3}}) {
+          for (const AttributeChange& mark : marks) {
+            Document document = original;
+            document.Apply(range, mark);
+            document = *rtf::Read(rtf::Write(document));
+            Restore(document, range, AttributesOf(original, range));
+            const std::string file = rtf::Write(document);
+            ASSERT_TRUE(SameButForColours(original, file)) << body << "\nnow " << file;
+          }
+        }
+      }
+    }
+  }
 }
 
 TEST(RtfWriter, PutsNewColoursBehindAllThatTheFileUses) {

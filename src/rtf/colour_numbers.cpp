@@ -18,6 +18,7 @@ ColourNumbers::ColourNumbers(const ColourTable& table)
     if (!entry.automatic) numbers_.try_emplace(entry.colour, number);
     ++number;
   }
+  if (Gap() > 0) numbers_.try_emplace(kBlack, number);
 }
 
 std::uint32_t ColourNumbers::NumberOf(Colour colour) {

@@ -2,7 +2,8 @@
 // into a group of its own, which sets the attributes and ends in front of whatever else the file
 // says there: nothing outside can come undone at its brace. Groups that an earlier save made in
 // this way are taken apart again where their characters changed, and stay only where they still
-// save words: so a file does not grow by marking and unmarking.
+// save words: so a file does not grow by marking and unmarking. They are told by their words: any
+// other group is its author's, and stays.
 #include "rtf/patching.h"
 
 #include <algorithm>
@@ -43,7 +44,19 @@ class Patcher {
   void NumberColours();
   std::vector<Patch> Patches() const;
 
-  std::vector<std::vector<FormatId>> DirectFormats(const MarkTree& tree) const;
+  // A group of a tree.
+  struct GroupNote {
+    std::vector<FormatId> formats;  // of the characters in it
+    bool ours = true;               // a save made it
+  };
+  std::vector<GroupNote> NotesOf(const MarkTree& tree);
+  bool IsWanted(const GroupNote& note, const Attributes& inside) const;
+  // Whether the words of a group are those that a save would put between the two.
+  bool AreWords(const MarkGroup& group, const Attributes& outside, const Attributes& inside,
+                bool rightToLeft);
+  bool IsRightToLeft(std::size_t character) const {
+    return document_.Formats()[formatIds_[character]].look.rightToLeft;
+  }
   void EmitTree(const MarkTree& tree);
   void Emit(std::size_t character, const Attributes& inForce);
   void EmitBytes(std::size_t character);
@@ -64,6 +77,7 @@ class Patcher {
   std::vector<char> changed_;        // whether that differs from what its place has
   std::vector<MarkTree> touched_;    // groups with a changed character in them, in order
   ColourNumbers colours_;
+  ColourNumbers coloursRead_;  // without those that this save adds
   PatchedCopy out_;
 
   // The group that is being written around a stretch of characters.
@@ -85,6 +99,7 @@ Patcher::Patcher(const Document& document)
       bytesOf_(document),
       trees_(document),
       colours_(source_.colours),
+      coloursRead_(source_.colours),
       out_("", {}) {
   const FormatTable& formats = document.Formats();
   for (FormatId id = 0; id < formats.Size(); ++id) {
@@ -160,33 +175,65 @@ std::vector<Patch> Patcher::Patches() const {
   return patches;
 }
 
-// The formats of the characters that stand directly in each group of a tree.
-std::vector<std::vector<FormatId>> Patcher::DirectFormats(const MarkTree& tree) const {
+std::vector<Patcher::GroupNote> Patcher::NotesOf(const MarkTree& tree) {
   struct Collector {
-    const Patcher& patcher;
+    Patcher& patcher;
     const MarkTree& tree;
-    std::vector<std::vector<FormatId>> formats;
-    void Open(std::size_t) {}
-    void Close(std::size_t) {}
+    std::vector<GroupNote> notes;
+    std::vector<std::size_t> around;
+    void Open(std::size_t index) {
+      const MarkGroup& group = patcher.source_.groups[index];
+      notes[index - tree.first].ours =
+          patcher.AreWords(group, group.outside, Changed(group.outside, group.words),
+                           patcher.IsRightToLeft(tree.inside.begin));
+      around.push_back(index);
+    }
+    void Close(std::size_t index) {
+      around.pop_back();
+      if (around.empty()) return;
+      const GroupNote& note = notes[index - tree.first];
+      GroupNote& outer = notes[around.back() - tree.first];
+      // No save puts a group of ours around one of the author's.
+      outer.ours = outer.ours && note.ours;
+      for (const FormatId id : note.formats) Add(outer, id);
+    }
     void Character(std::size_t character, std::size_t group) {
-      std::vector<FormatId>& direct = formats[group - tree.first];
-      const FormatId id = patcher.formatIds_[character];
-      if (direct.empty() || direct.back() != id) direct.push_back(id);
+      Add(notes[group - tree.first], patcher.formatIds_[character]);
+    }
+    static void Add(GroupNote& note, FormatId id) {
+      if (note.formats.empty() || note.formats.back() != id) note.formats.push_back(id);
     }
   };
-  Collector collector{*this, tree, std::vector<std::vector<FormatId>>(tree.end - tree.first)};
+  Collector collector{*this, tree, std::vector<GroupNote>(tree.end - tree.first), {}};
   trees_.Walk(tree, collector);
-  return std::move(collector.formats);
+  return std::move(collector.notes);
 }
 
-// Writes the groups of a tree anew. A group stays where its words still change something and a
-// character directly in it wants them; else its braces and words go, and what stood in it is
-// written against what is in force outside.
+// Whether a group serves its characters: one of them is to look as it says, or they part from it in
+// different ways, and may come back to it.
+bool Patcher::IsWanted(const GroupNote& note, const Attributes& inside) const {
+  const auto isInside = [&](FormatId id) { return targets_[id] == inside; };
+  const auto isOther = [&](FormatId id) { return targets_[id] != targets_[note.formats.front()]; };
+  return std::any_of(note.formats.begin(), note.formats.end(), isInside) ||
+         std::any_of(note.formats.begin(), note.formats.end(), isOther);
+}
+
+bool Patcher::AreWords(const MarkGroup& group, const Attributes& outside, const Attributes& inside,
+                       bool rightToLeft) {
+  const std::string_view words =
+      std::string_view(source_.bytes).substr(group.open + 1, group.content - group.open - 1);
+  return words == WordsBetween(outside, inside, rightToLeft, coloursRead_);
+}
+
+// Writes the groups of a tree anew. A group of ours stays where its words are still those that are
+// needed and serve the characters in it; else its braces and words go, and what stood in
+// it is written against what is in force outside.
 void Patcher::EmitTree(const MarkTree& tree) {
   struct Emitter {
     Patcher& patcher;
     const MarkTree& tree;
-    std::vector<std::vector<FormatId>> direct;
+    std::vector<GroupNote> notes;
+    bool rightToLeft;
     std::vector<Attributes> inForce;
     std::vector<bool> kept;
     std::size_t next;  // the character that comes next
@@ -195,10 +242,9 @@ void Patcher::EmitTree(const MarkTree& tree) {
       const MarkGroup& group = patcher.source_.groups[index];
       const Attributes outside = inForce.back();
       const Attributes inside = Changed(outside, group.words);
-      const std::vector<FormatId>& formats = direct[index - tree.first];
-      const bool wanted = std::any_of(formats.begin(), formats.end(),
-                                      [&](FormatId id) { return patcher.targets_[id] == inside; });
-      const bool keep = inside != outside && wanted;
+      const GroupNote& note = notes[index - tree.first];
+      const bool keep = !note.ours || (patcher.IsWanted(note, inside) &&
+                                       patcher.AreWords(group, outside, inside, rightToLeft));
       patcher.CloseWrap();
       patcher.CopyInFront(next, group.open);
       if (keep) {
@@ -231,14 +277,15 @@ void Patcher::EmitTree(const MarkTree& tree) {
     }
   };
   const Attributes outside = source_.groups[tree.first].outside;
-  Emitter emitter{*this, tree, DirectFormats(tree), {outside}, {}, tree.inside.begin};
+  Emitter emitter{*this,     tree, NotesOf(tree),    IsRightToLeft(tree.inside.begin),
+                  {outside}, {},   tree.inside.begin};
   trees_.Walk(tree, emitter);
 }
 
 void Patcher::Emit(std::size_t character, const Attributes& inForce) {
   const Origin& origin = origins_[character];
   const Attributes& target = Target(character);
-  const bool rightToLeft = document_.Formats()[formatIds_[character]].look.rightToLeft;
+  const bool rightToLeft = IsRightToLeft(character);
   const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
                       wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kSplit &&
                       out_.OnlyLineEndsUpTo(origin.begin);
@@ -275,8 +322,7 @@ void Patcher::EmitBytes(std::size_t character) {
 }
 
 void Patcher::OpenWrap(std::size_t character, const Attributes& inForce) {
-  wrap_ = {true, inForce, Target(character),
-           document_.Formats()[formatIds_[character]].look.rightToLeft, character};
+  wrap_ = {true, inForce, Target(character), IsRightToLeft(character), character};
   AppendBehind(character, "{" + WordsBetween(inForce, wrap_.target, wrap_.rightToLeft, colours_));
 }
 

@@ -37,8 +37,9 @@ struct Origin {
 inline constexpr std::uint32_t kLongestOrigin = (1U << 30U) - 1;
 
 // A group of the file that holds words of the four attributes, then characters and groups of the
-// same kind, and nothing else: the form in which marks are saved. Such a group is changed or
-// dissolved where its characters change, so that marking again and again does not nest deeper.
+// same kind, and nothing else: the form in which marks are saved. Where the words are those that a
+// save writes, such a group is changed or dissolved where its characters change, so that marking
+// again and again does not nest deeper.
 struct MarkGroup {
   Offset open = 0;     // of its opening brace
   Offset content = 0;  // behind its words
