@@ -196,14 +196,20 @@ TEST_F(PosixDiskTest, ReplacesAFileWithTheLongestName) {
 }
 
 TEST_F(PosixDiskTest, AppendsLinesWithTheirEnds) {
+  const std::string kMark = "\xEF\xBB\xBF";
   struct Row {
-    const char* before;
-    const char* after;
+    std::string before;
+    std::string after;
+    std::string line = "line";
   };
   for (const Row& row :
        {Row{"", "line\r\n"}, Row{"a\r\n", "a\r\nline\r\n"}, Row{"a\n", "a\nline\r\n"},
-        Row{"a\r", "a\rline\r\n"}, Row{"a", "a\r\nline\r\n"}}) {
-    disk.AppendLine(Put("list", row.before), "line");
+        Row{"a\r", "a\rline\r\n"}, Row{"a", "a\r\nline\r\n"},
+        // A byte order mark in front is no part of a line.
+        Row{kMark, kMark + "line\r\n"}, Row{"", kMark + kMark + "line\r\n", kMark + "line"},
+        Row{kMark, kMark + kMark + "line\r\n", kMark + "line"},
+        Row{"a\n" + kMark, "a\n" + kMark + "\r\nline\r\n"}}) {
+    disk.AppendLine(Put("list", row.before), row.line);
     EXPECT_EQ(Get("list"), row.after);
   }
   disk.AppendLine(Path("missing"), "first");

@@ -52,7 +52,10 @@ TEST(OperatorEntry, HasTwoForms) {
       {{U"more than seventeen", U"A", U"d"},
        U"more than seventeen\\      |A< d >",
        U"more than seventeen\\ \\A< d >"},
-      {{U"a\nb\u2028c", U"A", U"d"}, U"a b c\\      |A< d >", U"a b c\\             \\A< d >"},
+      {{U"a\nb\u2028c\r", U"A", U"d"}, U"a b c \\      |A< d >", U"a b c \\            \\A< d >"},
+      {{U"a", U"A", U"d\ne\u2028f\rg"},
+       U"a\\      |A< d e\u2028f g >",
+       U"a\\                 \\A< d e\u2028f g >"},
   };
   for (const auto& row : table) {
     EXPECT_TRUE(ListForm(row.entry) == row.list);

@@ -3,12 +3,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstddef>
 #include <optional>
 
 #include "files/descriptor.h"
 #include "files/replacement.h"
+#include "files/text_lines.h"
 #include "workbench/failure.h"
 
 namespace quill {
@@ -71,11 +74,14 @@ void ReserveRoom(const Descriptor& file, const std::string& path, off_t at, std:
 #endif
 }
 
+// Whether the file's last line lacks its line end. A byte order mark alone is no line.
 bool LacksLineEnd(const Descriptor& file, const std::string& path, off_t size) {
-  if (size == 0) return false;
-  char last = '\0';
-  if (pread(file.Number(), &last, 1, size - 1) != 1) FailDisk(path, "read");
-  return last != '\n' && last != '\r';
+  std::array<char, kByteOrderMark.size()> end{};
+  const off_t length = std::min<off_t>(size, end.size());
+  if (pread(file.Number(), end.data(), length, size - length) != length) FailDisk(path, "read");
+  const std::string_view last(end.data(), static_cast<std::size_t>(length));
+  const bool isMark = size == length && last == kByteOrderMark;
+  return !last.empty() && !isMark && last.back() != '\n' && last.back() != '\r';
 }
 
 // Takes back what a failed write left of a line, unless others have written behind it.
@@ -140,6 +146,7 @@ void PosixDisk::AppendLine(const std::string& path, std::string_view line) {
   if (!file.IsOpen()) FailDisk(path, "opened");
   const off_t size = file.OrdinaryStatus().st_size;
   std::string bytes;
+  if (size == 0) bytes += MarkInFrontOf(line);
   if (LacksLineEnd(file, path, size)) bytes += kLineEnd;
   bytes += line;
   bytes += kLineEnd;

@@ -5,11 +5,10 @@
 #include "text/unicode.h"
 
 namespace quill {
-namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
+std::string_view MarkInFrontOf(std::string_view firstLine) {
+  return firstLine.starts_with(kByteOrderMark) ? kByteOrderMark : std::string_view();
+}
 
 std::vector<std::string_view> SplitLines(std::string_view bytes) {
   if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());

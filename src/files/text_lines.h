@@ -17,6 +17,12 @@ std::vector<std::string_view> SplitLines(std::string_view bytes);
 // The same lines, decoded.
 std::vector<std::u32string> DecodeLines(std::string_view bytes);
 
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// What has to stand in front of the first line of a file, given its bytes: a file's first byte
+// order mark is no part of a line, and so a line that begins with one needs another before it.
+std::string_view MarkInFrontOf(std::string_view firstLine);
+
 // The bytes of one line, without its line end. A paragraph end inside it becomes CR LF, so that the
 // line is two lines of the file.
 std::string EncodeLine(std::u32string_view line);

@@ -10,12 +10,15 @@ namespace {
 // Counted from 1.
 constexpr std::size_t kSecondBackslashColumn = 20;
 
-bool BreaksLine(char32_t c) { return c == kParagraphEnd || c == U'\r' || c == kLineBreak; }
+// An entry is one line of the file.
+bool EndsLine(char32_t c) { return c == kParagraphEnd || c == U'\r'; }
 
 std::u32string Written(const OperatorEntry& entry, std::size_t gap, char32_t secondDelimiter) {
-  std::u32string written = entry.Lemma + U"\\" + std::u32string(gap, U' ') + secondDelimiter +
+  std::u32string lemma = entry.Lemma;
+  std::replace(lemma.begin(), lemma.end(), kLineBreak, U' ');
+  std::u32string written = lemma + U"\\" + std::u32string(gap, U' ') + secondDelimiter +
                            entry.Category + U"< " + entry.Definition + U" >";
-  std::replace_if(written.begin(), written.end(), BreaksLine, U' ');
+  std::replace_if(written.begin(), written.end(), EndsLine, U' ');
   return written;
 }
 

@@ -74,6 +74,7 @@ void RewriteTagListFile(Form1& form) {
   const std::string path = EncodePath(form.WorkState.TagListFile.Text());
   std::string bytes;
   for (const std::u32string& line : form.TagList.Items()) bytes += EncodeLine(line) + "\r\n";
+  bytes.insert(0, MarkInFrontOf(bytes));
   form.TheDisk().CreateIfMissing(path);
   if (HoldsForeignLine(form.TheDisk().Read(path), bytes + TakenLines(form))) {
     form.TheDisk().ReplaceKeepingOld(path, bytes);
