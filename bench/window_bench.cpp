@@ -2,10 +2,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QtTest>
 
 #include "window/appearance.h"
+#include "window/application.h"
 
 namespace quill::bench {
 
@@ -27,7 +27,7 @@ void ShownProgram::Paint() { QApplication::processEvents(); }
 
 int RunWindowBenchmarks(int argc, char** argv, void (*done)()) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  Application application(argc, argv);
   SetLook(application);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();

@@ -22,6 +22,8 @@ class Binder {
   virtual QWidget* Widget() const { return nullptr; }
   // Brings the widget up to the model; touches only what differs.
   virtual void Show() = 0;
+  // Brings back what the toolkit may have done to the widget by itself, without scrolling.
+  virtual void ReadBack() { Show(); }
   // Gives the widget the keyboard focus, as the program moved it there.
   virtual void TakeFocus() {}
   // The items of a list have changed since it was last shown; in the order of the changes.

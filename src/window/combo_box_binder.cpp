@@ -2,12 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QWheelEvent>
-#include <limits>
 
 #include "window/appearance.h"
+#include "window/edit_widgets.h"
 #include "window/shown.h"
 
 namespace quill {
@@ -29,13 +28,12 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& container, Actions& act
 
 ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QComboBox& widget, Actions& actions)
     : WidgetBinder(combo, widget, actions), combo_(combo), widget_(widget) {
-  widget.setEditable(true);
+  widget.setLineEdit(new LineEdit(&widget));
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setCompleter(nullptr);
   widget.setMaxVisibleItems(20);
   widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   QLineEdit& line = *widget.lineEdit();
-  line.setMaxLength(std::numeric_limits<int>::max());
   line.setAccessibleName(widget.accessibleName());
   widget.view()->setAccessibleName(widget.accessibleName());
   // The toolkit picks the row that reads like the line when Enter is pressed or the line is left.

@@ -1,7 +1,6 @@
-// The other ways into the text: the context menu, input methods, drops.
+// The other ways into the text: the context menu and input methods.
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QMenu>
@@ -11,15 +10,9 @@
 #include <algorithm>
 
 #include "window/document_view.h"
-#include "window/shown.h"
+#include "window/edit_widgets.h"
 
 namespace quill {
-
-QString PlainText(const QMimeData& data) {
-  QString text = data.text();
-  text.remove(QChar::ObjectReplacementCharacter);
-  return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
-}
 
 void DocumentView::contextMenuEvent(QContextMenuEvent* event) {
   auto* const menu = new QMenu(this);
@@ -37,7 +30,7 @@ void DocumentView::contextMenuEvent(QContextMenuEvent* event) {
   menu->addSeparator();
   add("Cu&t", QKeySequence::Cut, selected, &DocumentView::Cut);
   add("&Copy", QKeySequence::Copy, selected, &QTextEdit::copy);
-  add("&Paste", QKeySequence::Paste, data != nullptr && data->hasText(), &DocumentView::Paste);
+  add("&Paste", QKeySequence::Paste, data != nullptr && HasPlainText(*data), &DocumentView::Paste);
   add("&Delete", QKeySequence::UnknownKey, selected, &DocumentView::DeleteSelection);
   menu->addSeparator();
   add("Select &all", QKeySequence::SelectAll, text_.Length() > 0, &DocumentView::SelectEverything);
@@ -102,41 +95,6 @@ QVariant DocumentView::inputMethodQuery(Qt::InputMethodQuery property) const {
   if (property == Qt::ImEnabled) return isEnabled();
   if (property == Qt::ImReadOnly) return false;
   return QTextEdit::inputMethodQuery(property);
-}
-
-// --- Drag and drop ---------------------------------------------------------------------------
-
-bool DocumentView::IsOwnDrag(const QDropEvent& event) const {
-  return event.source() == this || event.source() == viewport();
-}
-
-void DocumentView::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
-
-void DocumentView::dragMoveEvent(QDragMoveEvent* event) {
-  if (!canInsertFromMimeData(event->mimeData())) {
-    event->ignore();
-    return;
-  }
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-}
-
-void DocumentView::dropEvent(QDropEvent* event) {
-  const QTextCursor place = cursorForPosition(event->position().toPoint());
-  const Position at = positions_.ToModel(place.position());
-  const Range dragged = text_.Selection();
-  const bool moves = IsOwnDrag(*event) && !event->modifiers().testFlag(Qt::ControlModifier);
-  const std::u32string text = FromQt(PlainText(*event->mimeData()));
-  // The source is never to delete anything itself.
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  actions_.Do([&](Program& program) {
-    program.GoInto(text_);
-    if (moves) return program.MoveInText(dragged, at);
-    program.Select(at, 0);
-    program.TypeInText(text);
-  });
-  RestartCaret();
 }
 
 }  // namespace quill

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "window/edit_widgets.h"
 #include "window/shown.h"
 #include "workbench/form1.h"
 
@@ -58,8 +59,6 @@ DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setAttribute(Qt::WA_InputMethodEnabled);
   viewport()->setCursor(Qt::IBeamCursor);
-  viewport()->setAcceptDrops(true);
-  setAcceptDrops(true);
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
@@ -215,15 +214,7 @@ void DocumentView::SelectEverything() {
 
 void DocumentView::mouseReleaseEvent(QMouseEvent* event) {
   QTextEdit::mouseReleaseEvent(event);
-  if (event->button() == Qt::LeftButton) {
-    ReportSelection();
-  } else if (event->button() == Qt::MiddleButton &&
-             QGuiApplication::clipboard()->supportsSelection()) {
-    const QString text = PlainText(*QGuiApplication::clipboard()->mimeData(QClipboard::Selection));
-    setTextCursor(cursorForPosition(event->position().toPoint()));
-    ReportSelection();
-    Type(text);
-  }
+  if (event->button() == Qt::LeftButton) ReportSelection();
 }
 
 // --- Editing ---------------------------------------------------------------------------------
@@ -342,7 +333,7 @@ QMimeData* DocumentView::createMimeDataFromSelection() const {
 }
 
 bool DocumentView::canInsertFromMimeData(const QMimeData* source) const {
-  return source->hasText();
+  return HasPlainText(*source);
 }
 
 void DocumentView::insertFromMimeData(const QMimeData* source) { Type(PlainText(*source)); }

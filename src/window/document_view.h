@@ -59,9 +59,6 @@ class DocumentView final : public QTextEdit {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dragMoveEvent(QDragMoveEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
@@ -106,7 +103,6 @@ class DocumentView final : public QTextEdit {
   void RestartCaret();
   QRegion AboveSelection(const QRect& clip) const;
   int CaretPosition() const;
-  bool IsOwnDrag(const QDropEvent& event) const;
 
   TextSurface& text_;
   Actions& actions_;
@@ -121,8 +117,5 @@ class DocumentView final : public QTextEdit {
   bool caretIsNoted_ = false;  // the widget's own is elsewhere
   int preeditCaret_ = -1;      // inside the preedit text; -1 without one
 };
-
-// What of a clipboard or a drop is text to type: no pictures, and paragraphs that end in U+000A.
-QString PlainText(const QMimeData& data);
 
 }  // namespace quill

@@ -1,13 +1,20 @@
 #include "window/list_box_binder.h"
 
 #include <QAbstractListModel>
+#include <QApplication>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <functional>
 #include <numeric>
+#include <optional>
+#include <utility>
 
 #include "window/appearance.h"
 #include "window/shown.h"
@@ -56,13 +63,15 @@ class Rows : public QAbstractListModel {
   }
   void Measure(const QFontMetrics& metrics) { size_ = QSize(Width(metrics), metrics.height() + 3); }
 
+  int Height() const { return size_.height(); }
+
   int rowCount(const QModelIndex& parent) const override {
     return parent.isValid() ? 0 : static_cast<int>(weights_.size());
   }
 
   QVariant data(const QModelIndex& index, int role) const override {
     if (role == Qt::SizeHintRole) return size_;
-    if (role != Qt::DisplayRole || index.row() >= list_.ListCount()) return {};
+    if (role != Qt::DisplayRole || index.row() < 0 || index.row() >= list_.ListCount()) return {};
     return Shown(list_.List(index.row()));
   }
 
@@ -89,25 +98,61 @@ class Rows : public QAbstractListModel {
   QSize size_;
 };
 
+// What of the rows is selected. The toolkit selects at clicks, keys and changes of the rows; here
+// it selects nothing, and what is shown as selected is what the binder says.
+class Selection : public QItemSelectionModel {
+ public:
+  using QItemSelectionModel::QItemSelectionModel;
+
+  // An invalid row is none.
+  void Show(const QModelIndex& row) {
+    if (!row.isValid()) return Drop();
+    QItemSelectionModel::select(QItemSelection(row, row), ClearAndSelect);
+    QItemSelectionModel::setCurrentIndex(row, NoUpdate);
+  }
+
+  void select(const QModelIndex& /*row*/, SelectionFlags /*command*/) override {}
+  void select(const QItemSelection& /*rows*/, SelectionFlags /*command*/) override {}
+  void setCurrentIndex(const QModelIndex& /*row*/, SelectionFlags /*command*/) override {}
+  void clear() override {}
+  void clearCurrentIndex() override {}
+  void reset() override {
+    const QSignalBlocker quiet(this);
+    Drop();
+  }
+
+ private:
+  void Drop() {
+    QItemSelectionModel::select(QItemSelection(), Clear);
+    QItemSelectionModel::clearCurrentIndex();
+  }
+};
+
+bool IsPlain(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
+}
+
 }  // namespace
 
-// Tells which item the user chose, with the mouse or with the keys.
+// Tells which item the user chose, with the mouse or with the keys. It reads mouse and keys itself.
 class ListView : public QListView {
  public:
-  ListView(QWidget& parent, const ListBox& list) : QListView(&parent), rows_(new Rows(list, this)) {
+  ListView(QWidget& parent, const ListBox& list)
+      : QListView(&parent),
+        list_(list),
+        rows_(new Rows(list, this)),
+        selection_(new Selection(rows_, this)) {
     setModel(rows_);
+    delete selectionModel();
+    setSelectionModel(selection_);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
+    setAutoScroll(false);
     setHorizontalScrollMode(ScrollPerPixel);
   }
 
   std::function<void(int)> chosen;
-
-  int SelectedRow() const {
-    const QModelIndexList selected = selectionModel()->selectedIndexes();
-    return selected.empty() ? -1 : selected.front().row();
-  }
 
   void ShowAnew() {
     KeepPlace([this] { rows_->Reset(); });
@@ -117,31 +162,53 @@ class ListView : public QListView {
       for (const ItemChange& change : changes) rows_->Follow(change);
     });
   }
-  void SelectRow(int row) {
-    if (row < 0) {
-      selectionModel()->clear();
-      return;
-    }
-    setCurrentIndex(rows_->index(row));
+  void ShowSelected() { selection_->Show(rows_->index(list_.ListIndex)); }
+  void ScrollToSelected() {
     const int left = horizontalScrollBar()->value();
-    scrollTo(rows_->index(row));
+    scrollTo(rows_->index(list_.ListIndex));
     horizontalScrollBar()->setValue(left);
   }
 
+  void keyboardSearch(const QString& typed) override {
+    if (typed.isEmpty()) return;
+    const bool goesOn =
+        typing_.isValid() && typing_.elapsed() < QApplication::keyboardInputInterval();
+    typing_.start();
+    wanted_ = goesOn ? wanted_ + typed : typed;
+    // A letter typed over and over goes through the rows that begin with it.
+    const bool again = wanted_.count(wanted_.front()) == wanted_.size();
+    const int from = std::max<int>(list_.ListIndex, 0) + (again && list_.ListIndex >= 0 ? 1 : 0);
+    const QModelIndexList found =
+        rows_->match(rows_->index(from % std::max(list_.ListCount(), 1)), Qt::DisplayRole,
+                     again ? wanted_.left(1) : wanted_, 1, Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!found.isEmpty()) Move(found.front().row());
+  }
+
  protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    pressed_ = plain ? RowAt(*event) : -1;
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
   void mouseReleaseEvent(QMouseEvent* event) override {
-    QListView::mouseReleaseEvent(event);
-    const int row = SelectedRow();
-    if (event->button() == Qt::LeftButton && row >= 0) chosen(row);
+    if (event->button() != Qt::LeftButton) return;
+    const int row = std::exchange(pressed_, -1);
+    if (row >= 0 && row == RowAt(*event)) chosen(row);
   }
 
   void keyPressEvent(QKeyEvent* event) override {
-    const int before = SelectedRow();
-    // From no selection, a key goes to the first item and not past it.
-    if (before < 0) selectionModel()->clearCurrentIndex();
-    QListView::keyPressEvent(event);
-    const int row = SelectedRow();
-    if (row >= 0 && row != before) chosen(row);
+    const QString typed = event->text();
+    const std::optional<int> row = IsPlain(event->modifiers()) ? Goal(event->key()) : std::nullopt;
+    if (event->matches(QKeySequence::Copy)) {
+      Copy();
+    } else if (row) {
+      Move(*row);
+    } else if (IsPlain(event->modifiers()) && !typed.isEmpty() && typed.front().isPrint()) {
+      keyboardSearch(typed);
+    } else {
+      event->ignore();
+    }
   }
 
  private:
@@ -156,7 +223,47 @@ class ListView : public QListView {
     verticalScrollBar()->setValue(top);
   }
 
+  int RowAt(const QMouseEvent& event) const { return indexAt(event.position().toPoint()).row(); }
+
+  // Where a key goes from the selected item; from none, to the first.
+  std::optional<int> Goal(int key) const {
+    const int row = list_.ListIndex;
+    const int page = std::max(viewport()->height() / std::max(rows_->Height(), 1) - 1, 1);
+    const auto from = [row](int step) { return row < 0 ? 0 : row + step; };
+    switch (key) {
+      case Qt::Key_Up:
+        return from(-1);
+      case Qt::Key_Down:
+        return from(1);
+      case Qt::Key_PageUp:
+        return from(-page);
+      case Qt::Key_PageDown:
+        return from(page);
+      case Qt::Key_Home:
+        return 0;
+      case Qt::Key_End:
+        return list_.ListCount() - 1;
+      default:
+        return std::nullopt;
+    }
+  }
+
+  void Move(int goal) {
+    const int row = std::clamp(goal, 0, std::max(list_.ListCount() - 1, 0));
+    if (row < list_.ListCount() && row != list_.ListIndex) chosen(row);
+  }
+
+  void Copy() const {
+    const int row = list_.ListIndex;
+    if (row >= 0) QGuiApplication::clipboard()->setText(ToQt(list_.List(row)));
+  }
+
+  const ListBox& list_;
   Rows* rows_;
+  Selection* selection_;
+  int pressed_ = -1;  // the row under the mouse when its button went down
+  QString wanted_;    // what was typed to find a row
+  QElapsedTimer typing_;
 };
 
 ListBoxBinder::ListBoxBinder(ListBox& list, QWidget& container, Actions& actions)
@@ -180,8 +287,14 @@ void ListBoxBinder::Show() {
     view_.Follow(changes_);
   }
   changes_.clear();
-  // Also where it is selected already: the user may have scrolled it away.
-  view_.SelectRow(list_.ListIndex);
+  view_.ShowSelected();
+  // Also where it was selected already: the user may have scrolled it away.
+  view_.ScrollToSelected();
+}
+
+void ListBoxBinder::ReadBack() {
+  WidgetBinder::Show();
+  view_.ShowSelected();
 }
 
 void ListBoxBinder::ItemInserted(int index) {

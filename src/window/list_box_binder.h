@@ -1,5 +1,7 @@
-// List boxes: quick with as many items as a list can hold. The selected item is scrolled into view
-// whenever the program selects it, and the view scrolls sideways to the end of the longest.
+// List boxes: quick with as many items as a list can hold. What is highlighted is the list's own
+// ListIndex: a left click on a row and the keys that move or find a row are a user's choice, and
+// nothing else selects. The selected item is scrolled into view whenever the program selects it,
+// and the view scrolls sideways to the end of the longest.
 #pragma once
 
 #include <vector>
@@ -20,6 +22,7 @@ class ListBoxBinder final : public WidgetBinder {
  public:
   ListBoxBinder(ListBox& list, QWidget& container, Actions& actions);
   void Show() override;
+  void ReadBack() override;
   void ItemInserted(int index) override;
   void ItemRemoved(int index) override;
   void ItemsChanged() override;

@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
@@ -15,6 +14,7 @@
 #include "files/posix_disk.h"
 #include "program/program.h"
 #include "window/appearance.h"
+#include "window/application.h"
 #include "window/main_window.h"
 #include "window/window_dialogs.h"
 
@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
   // A limit on the size of files makes a save fail, which is told, instead of ending the program.
   std::signal(SIGXFSZ, SIG_IGN);
   StartNoSessionBus();
-  QApplication application(argc, argv);
+  quill::Application application(argc, argv);
   // Numbers in files have a point whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");
   const QString text = TextFromArguments(application);
@@ -104,11 +104,12 @@ int main(int argc, char** argv) {
   quill::Program program(dialogs, disk);
   quill::MainWindow window(program);
   dialogs.Attach(window, program.Form());
+  const auto open = [&](const QString& path) {
+    dialogs.ChooseNext(path);
+    window.findChild<QAction*>(QStringLiteral("mnuFileOpen"))->trigger();
+  };
+  window.OnDroppedFile(open);
   window.show();
-  if (!text.isEmpty()) {
-    dialogs.ChooseNext(text);
-    QTimer::singleShot(0, window.findChild<QAction*>(QStringLiteral("mnuFileOpen")),
-                       &QAction::trigger);
-  }
+  if (!text.isEmpty()) QTimer::singleShot(0, &window, [&] { open(text); });
   return QApplication::exec();
 }

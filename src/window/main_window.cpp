@@ -1,16 +1,23 @@
 #include "window/main_window.h"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <map>
 
 #include "window/appearance.h"
+#include "window/application.h"
 #include "window/layout.h"
 #include "window/mark_names.h"
 #include "window/menus.h"
@@ -40,6 +47,14 @@ class Room : public QScrollArea {
   std::function<void()> resized_;
 };
 
+// The one file of this machine that is dragged; empty where it is anything else.
+QString DroppedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+  const QString path = urls.front().toLocalFile();
+  return QFileInfo(path).isFile() ? path : QString();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Program& program)
@@ -60,7 +75,9 @@ MainWindow::MainWindow(Program& program)
   updates_.ShowAll();
   Show();
   desk_->setFocus();
-  QApplication::instance()->installEventFilter(this);
+  setAcceptDrops(true);
+  Application::Instance().installEventFilter(this);
+  Application::Instance().AfterInput([this](const QWidget& widget) { ReadBack(widget); });
   const QSize frame(8, 40);
   resize(sizeHint().boundedTo(screen()->availableSize() - frame));
 }
@@ -69,7 +86,10 @@ QSize MainWindow::sizeHint() const {
   return StoredSize() + QSize(0, menuBar()->sizeHint().height());
 }
 
-MainWindow::~MainWindow() { QApplication::instance()->removeEventFilter(this); }
+MainWindow::~MainWindow() {
+  Application::Instance().AfterInput(nullptr);
+  Application::Instance().removeEventFilter(this);
+}
 
 void MainWindow::BuildMenus() {
   menuBar()->setNativeMenuBar(false);
@@ -147,6 +167,11 @@ void MainWindow::ShowFocus() {
   room_->ensureWidgetVisible(&widget);
 }
 
+void MainWindow::ReadBack(const QWidget& widget) {
+  const Control* const control = ControlOf(&widget);
+  if (control != nullptr && !actions_.Running()) updates_.BinderOf(*control).ReadBack();
+}
+
 void MainWindow::Arrange() {
   for (const Control* const control : form_.Controls()) {
     if (&form_.ContainerOf(*control) != &form_ || control->Kind() == Kind::kMenuItem ||
@@ -167,23 +192,57 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-// --- Focus -----------------------------------------------------------------------------------
+// --- The user's hands ------------------------------------------------------------------------
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event) {
-  const bool press = event->type() == QEvent::MouseButtonPress;
-  if ((!press && event->type() != QEvent::KeyPress) || actions_.Running()) return false;
   const auto* const widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr || widget->window() != this) return false;
-  if (press) {
-    UserGoesInto(*widget);
-    return false;
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      if (!actions_.Running()) UserGoesInto(*widget);
+      return IsMiddleButton(*widget, *event);
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return IsMiddleButton(*widget, *event);
+    case QEvent::KeyPress:
+      return !actions_.Running() && IsMoveByTab(static_cast<const QKeyEvent&>(*event));
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+      Drop(static_cast<QDropEvent&>(*event));
+      return true;
+    default:
+      return false;
   }
-  const auto& key = static_cast<const QKeyEvent&>(*event);
+}
+
+// It would paste what was selected last, here or in another program. A scroll bar may have it.
+bool MainWindow::IsMiddleButton(const QWidget& widget, const QEvent& event) {
+  return static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton &&
+         qobject_cast<const QScrollBar*>(&widget) == nullptr;
+}
+
+bool MainWindow::IsMoveByTab(const QKeyEvent& key) {
   const bool back = key.key() == Qt::Key_Backtab;
   const bool tab = back || key.key() == Qt::Key_Tab;
   const Qt::KeyboardModifiers others = key.modifiers() & ~Qt::ShiftModifier;
   return tab && others == Qt::NoModifier && MoveByTab(!back);
 }
+
+// No widget sees a drag: one file is opened, and anything else is refused.
+void MainWindow::Drop(QDropEvent& event) {
+  const QString path = actions_.Running() ? QString() : DroppedFile(*event.mimeData());
+  if (path.isEmpty()) return event.ignore();
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+  if (event.type() != QEvent::Drop) return;
+  // The program that the file came from waits for the end of this event.
+  QTimer::singleShot(0, this, [this, path] {
+    if (!actions_.Running() && openFile_) openFile_(path);
+  });
+}
+
+// --- Focus -----------------------------------------------------------------------------------
 
 bool MainWindow::focusNextPrevChild(bool /*next*/) {
   desk_->setFocus(Qt::OtherFocusReason);

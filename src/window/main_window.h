@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -10,6 +11,8 @@
 #include "window/binder.h"
 #include "window/updates.h"
 
+class QDropEvent;
+class QKeyEvent;
 class QLabel;
 class QScrollArea;
 
@@ -21,12 +24,16 @@ class MainWindow final : public QMainWindow {
   explicit MainWindow(Program& program);
   ~MainWindow() override;
 
+  // What a file dropped on the window does, given its path.
+  void OnDroppedFile(std::function<void(const QString&)> open) { openFile_ = std::move(open); }
+
   // The stored size and the menu bar. The window begins with it where the screen is large enough.
   QSize sizeHint() const override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  // Sees the user's moves of the focus: a press of the mouse on a control, a Tab key.
+  // Sees the user's moves of the focus: a press of the mouse on a control, a Tab key. Keeps from
+  // the widgets what is no work of theirs: the middle button and drops.
   bool eventFilter(QObject* object, QEvent* event) override;
   // The toolkit's own moves of the focus, as from a widget that is disabled or hidden: they end
   // where keys do no harm.
@@ -44,7 +51,14 @@ class MainWindow final : public QMainWindow {
   void ShowFocus();
   void Arrange();
 
+  // Brings the control that a widget belongs to back to what the model holds.
+  void ReadBack(const QWidget& widget);
+
+  static bool IsMiddleButton(const QWidget& widget, const QEvent& event);
+  void Drop(QDropEvent& event);
+
   void UserGoesInto(const QWidget& widget);
+  bool IsMoveByTab(const QKeyEvent& key);
   bool MoveByTab(bool forward);
   // Whether Tab stops there: in reach, and not behind another panel.
   bool IsTabStop(const Control& control) const;
@@ -53,6 +67,7 @@ class MainWindow final : public QMainWindow {
   Form1& form_;
   Actions actions_;
   Updates updates_;
+  std::function<void(const QString&)> openFile_;
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
   QScrollArea* room_;                             // what the window has for the desk
   QWidget* desk_;

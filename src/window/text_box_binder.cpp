@@ -1,22 +1,16 @@
 #include "window/text_box_binder.h"
 
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <limits>
 
 #include "window/appearance.h"
+#include "window/edit_widgets.h"
 #include "window/shown.h"
 
 namespace quill {
 
 TextBoxBinder::TextBoxBinder(TextBox& box, QWidget& widget, Actions& actions)
     : WidgetBinder(box, widget, actions), box_(box) {}
-
-bool TextBoxBinder::IsReadOnly() const {
-  return box_.Name() == "Infotext" || box_.Name() == "User_Dialogue";
-}
 
 void TextBoxBinder::Forward(std::u32string_view shown, std::u32string_view now) {
   if (TheActions().Running()) return;
@@ -48,13 +42,10 @@ void TextBoxBinder::ShowLook() {
 }
 
 OneLineBinder::OneLineBinder(TextBox& box, QWidget& container, Actions& actions)
-    : OneLineBinder(box, *new QLineEdit(&container), actions) {}
+    : OneLineBinder(box, *new LineEdit(&container), actions) {}
 
 OneLineBinder::OneLineBinder(TextBox& box, QLineEdit& line, Actions& actions)
     : TextBoxBinder(box, line, actions), line_(line) {
-  // A line edit would cut at 32,767 characters.
-  line.setMaxLength(std::numeric_limits<int>::max());
-  line.setReadOnly(IsReadOnly());
   if (box.Row().stored.centred) line.setAlignment(Qt::AlignCenter);
   QObject::connect(&line, &QLineEdit::textEdited, &line, [this](const QString& now) {
     Forward(FromQt(ToQt(Box().Text.Get())), FromQt(now));
@@ -77,22 +68,21 @@ void OneLineBinder::TakeFocus() {
 }
 
 SeveralLinesBinder::SeveralLinesBinder(TextBox& box, QWidget& container, Actions& actions)
-    : SeveralLinesBinder(box, *new QPlainTextEdit(&container), actions) {}
+    : SeveralLinesBinder(box, *new SeveralLinesEdit(&container), actions) {}
 
 SeveralLinesBinder::SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions)
     : TextBoxBinder(box, edit, actions), edit_(edit) {
-  edit.setTabChangesFocus(true);
-  edit.setReadOnly(IsReadOnly());
-  if (IsReadOnly()) {
-    edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  }
   edit.setVerticalScrollBarPolicy(box.Row().stored.verticalScrollBar ? Qt::ScrollBarAlwaysOn
                                                                      : Qt::ScrollBarAlwaysOff);
   edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   edit.document()->setDocumentMargin(3);
-  if (IsReadOnly()) edit.setFont(FontForStoredText());
+  if (HasStoredText()) edit.setFont(FontForStoredText());
   QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit,
                    [this] { Forward(ShownText(Box().Text.Get()), RawText(*edit_.document())); });
+}
+
+bool SeveralLinesBinder::HasStoredText() const {
+  return Box().Name() == "Infotext" || Box().Name() == "User_Dialogue";
 }
 
 // The stored text says how it is meant to be read: as a whole or, where the box scrolls, by lines.

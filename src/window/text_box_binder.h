@@ -22,8 +22,6 @@ class TextBoxBinder : public WidgetBinder {
   TextBox& Box() const { return box_; }
   // The user made `now` of what the widget showed.
   void Forward(std::u32string_view shown, std::u32string_view now);
-  // The program's own words: nothing is typed there.
-  bool IsReadOnly() const;
 
  private:
   void ShowLook();
@@ -54,6 +52,8 @@ class SeveralLinesBinder final : public TextBoxBinder {
 
  private:
   SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions);
+  // Whether the box opens with the program's own words.
+  bool HasStoredText() const;
   QFont FontForStoredText() const;
 
   QPlainTextEdit& edit_;

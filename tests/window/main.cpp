@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-
 #include "window/appearance.h"
+#include "window/application.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
+  quill::Application application(argc, argv);
   quill::SetLook(application);
   return RUN_ALL_TESTS();
 }

@@ -106,22 +106,6 @@ TEST_F(TextTest, AnInputMethodCommitsThroughTheModel) {
   ExpectShown(window, form);
 }
 
-TEST_F(TextTest, ADropGoesThroughTheModel) {
-  OpenText("one two three");
-  DragOver(0, 4);
-  QMimeData data;
-  data.setText("by ");
-  QTextCursor place(View().document());
-  place.setPosition(8);
-  const QPoint point = View().cursorRect(place).center();
-  QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(View().viewport(), &enter);
-  QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(View().viewport(), &drop);
-  EXPECT_EQ(Dump(), "one two by |three");
-  ExpectShown(window, form);
-}
-
 TEST_F(TextTest, TheContextMenuEditsTheModel) {
   OpenText("one two");
   DragOver(0, 4);

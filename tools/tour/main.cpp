@@ -1,6 +1,5 @@
 // tour [FOLDER]: plays the tour and leaves a picture of each main step in the folder, or in a new
 // one whose name it prints.
-#include <QApplication>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
@@ -9,6 +8,7 @@
 
 #include "tour/tour.h"
 #include "window/appearance.h"
+#include "window/application.h"
 #include "window/shown.h"
 
 namespace {
@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
   }
   // Dialogs of the desktop's own can't be typed into.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  QApplication application(argc, argv);
+  quill::Application application(argc, argv);
   quill::SetLook(application);
   // A list that dropped down is clicked at once.
   QApplication::setDoubleClickInterval(1);

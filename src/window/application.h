@@ -1,0 +1,29 @@
+// The toolkit's event loop with a guard around it: whatever the toolkit calls runs inside one of
+// its events, and no failure leaves an event. After each event of mouse or keys the window is read
+// back, for what the toolkit did to a widget by itself.
+#pragma once
+
+#include <QApplication>
+#include <functional>
+
+namespace quill {
+
+class Application final : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  // The one application; a program without it cannot have a window.
+  static Application& Instance();
+
+  // `read` runs with the widget that got an event of mouse or keys, when all that came of the event
+  // is done. nullptr ends it.
+  void AfterInput(std::function<void(const QWidget&)> read) { afterInput_ = std::move(read); }
+
+  // What throws is told on standard error, and counts as an event that was taken.
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  std::function<void(const QWidget&)> afterInput_;
+};
+
+}  // namespace quill
