@@ -99,44 +99,6 @@ TEST_F(Surface, TypesOverASelectionAsOneEdit) {
   EXPECT_EQ(Dump(text_.Doc()), "<c16711680 b>one or two</> three");
 }
 
-TEST_F(Surface, MovesARangeAsOneEdit) {
-  const struct {
-    Range range;
-    Position to;
-    const char32_t* text;
-    Position caret;
-  } kCases[] = {
-      {{0, 4}, 8, U"two one three", 8},
-      {{8, 13}, 4, U"one threetwo ", 9},
-      {{0, 4}, 13, U"two threeone ", 13},
-      {{4, 8}, 0, U"two one three", 4},
-      {{0, 4}, 2, nullptr, 0},
-      {{0, 4}, 4, nullptr, 0},
-      {{4, 4}, 8, nullptr, 0},
-  };
-  for (const auto& test : kCases) {
-    Load("one two three");
-    text_.UserMoves(test.range, test.to);
-    if (test.text == nullptr) {
-      EXPECT_EQ(text_.Text(), U"one two three");
-      EXPECT_FALSE(text_.CanUndo());
-      continue;
-    }
-    EXPECT_EQ(text_.Text(), test.text);
-    EXPECT_EQ(text_.SelStart, test.caret);
-    text_.Undo();
-    EXPECT_EQ(text_.Text(), U"one two three");
-    EXPECT_FALSE(text_.CanUndo());
-    text_.Redo();
-    EXPECT_EQ(text_.Text(), test.text);
-    EXPECT_FALSE(text_.CanRedo());
-    text_.SelStart = 0;
-    text_.TypeOver(U"x");
-    text_.Undo();
-    EXPECT_EQ(text_.Text(), test.text) << "the step before stays";
-  }
-}
-
 TEST_F(Surface, KeepsTheEndsOfCellsAndRows) {
   Load("x\\par\\trowd\\intbl a\\cell b\\cell\\row\\pard y");
   // x¶ a→ b→ ¶ y

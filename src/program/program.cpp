@@ -147,10 +147,6 @@ void Program::TypeInText(std::u32string_view text) {
   Run([&] { form_.RichTextBox1.TypeOver(WithParagraphEnds(text)); });
 }
 
-void Program::MoveInText(Range range, Position to) {
-  Run([&] { form_.RichTextBox1.UserMoves(range, to); });
-}
-
 void Program::UndoInText() {
   Run([&] { form_.RichTextBox1.Undo(); });
 }

@@ -45,7 +45,6 @@ class Program {
   // Edits of the text itself by a user's hand; the text must have the focus.
   void DeleteInText(Range range);
   void TypeInText(std::u32string_view text);  // as one edit
-  void MoveInText(Range range, Position to);  // as one edit, too
   void UndoInText();
   void RedoInText();
 

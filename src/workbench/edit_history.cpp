@@ -15,8 +15,4 @@ void EditHistory::Clear() {
   done_ = 0;
 }
 
-bool EditHistory::StepGoesOn(bool forward) const {
-  return done_ < edits_.size() && edits_[done_].joined && (forward || done_ > 0);
-}
-
 }  // namespace quill

@@ -14,7 +14,6 @@ struct Edit {
   Position at = 0;
   Position inserted = 0;
   std::vector<Cell> cells;
-  bool joined = false;  // undone and redone together with the edit before it
 };
 
 class EditHistory {
@@ -22,8 +21,6 @@ class EditHistory {
   // Forgets what could be redone.
   void Add(Edit edit);
   void Clear();
-  // Makes one step of the last two edits, of which there must be as many.
-  void JoinLast() { edits_.back().joined = true; }
 
   bool CanUndo() const { return done_ > 0; }
   bool CanRedo() const { return done_ < edits_.size(); }
@@ -32,8 +29,6 @@ class EditHistory {
   // what stood there. Undefined where there is none.
   Edit& StepBack() { return edits_[--done_]; }
   Edit& StepForward() { return edits_[done_++]; }
-  // Whether the edit that would come next in that direction belongs to the one that came last.
-  bool StepGoesOn(bool forward) const;
 
  private:
   std::vector<Edit> edits_;

@@ -188,36 +188,15 @@ void TextSurface::UserDeletes(Range range) {
   Select({range.begin, range.begin});
 }
 
-void TextSurface::UserMoves(Range range, Position to) {
-  const std::u32string moved = Text().substr(static_cast<std::size_t>(range.begin),
-                                             static_cast<std::size_t>(range.Length()));
-  const bool inside = to >= range.begin && to <= range.end;
-  if (moved.empty() || inside || !document_.CanDelete(range) ||
-      moved.find(kObject) != std::u32string::npos) {
-    return;
-  }
-  UserDeletes(range);
-  SelStart = to > range.end ? to - range.Length() : to;
-  TypeOver(moved);
-  history_.JoinLast();
-}
-
 void TextSurface::Undo() {
-  if (!CanUndo()) return;
-  do {
-    Step(false);
-  } while (history_.StepGoesOn(false));
+  if (CanUndo()) Exchange(history_.StepBack());
 }
 
 void TextSurface::Redo() {
-  if (!CanRedo()) return;
-  do {
-    Step(true);
-  } while (history_.StepGoesOn(true));
+  if (CanRedo()) Exchange(history_.StepForward());
 }
 
-void TextSurface::Step(bool forward) {
-  Edit& edit = forward ? history_.StepForward() : history_.StepBack();
+void TextSurface::Exchange(Edit& edit) {
   const Range range{edit.at, edit.at + edit.inserted};
   std::vector<Cell> gone = document_.Exchange(range, edit.cells);
   edit.inserted = static_cast<Position>(edit.cells.size());

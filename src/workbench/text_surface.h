@@ -85,9 +85,6 @@ class TextSurface : public Control {
   void TypeOver(std::u32string_view text);
   // Deletes a range as one edit.
   void UserDeletes(Range range);
-  // Takes a range away and types it at a place outside it, as one edit. Pictures are no text that
-  // could be typed: with one in the range it does nothing.
-  void UserMoves(Range range, Position to);
   bool CanUndo() const { return history_.CanUndo(); }
   bool CanRedo() const { return history_.CanRedo(); }
   void Undo();
@@ -103,7 +100,8 @@ class TextSurface : public Control {
  private:
   void Select(Range range);
   void Write(const AttributeChange& change);
-  void Step(bool forward);
+  // Turns an edit round.
+  void Exchange(Edit& edit);
 
   Document document_;
   Range selection_;
