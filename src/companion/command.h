@@ -32,6 +32,8 @@ const std::vector<Command>& Commands();
 
 void RunText(const Options& options, Console& console);
 void RunSummary(const Options& options, Console& console);
+void RunAgree(const Options& options, Console& console);
+void RunPicture(const Options& options, Console& console);
 void RunExport(const Options& options, Console& console);
 
 }  // namespace quill::companion

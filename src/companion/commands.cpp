@@ -9,6 +9,10 @@ const std::vector<Command>& Commands() {
        Command::kManyFiles | Command::kManyLists | Command::kTo, RunExport},
       {"summary", "Count characters, tags and what they say.",
        Command::kManyFiles | Command::kManyLists | Command::kCsv, RunSummary},
+      {"agree", "Tell how far the readers of one text agree.",
+       Command::kManyFiles | Command::kManyLists | Command::kCsv | Command::kBy, RunAgree},
+      {"picture", "Draw where the tags stand and what they refer to (SVG).",
+       Command::kManyLists | Command::kNeedsOutput, RunPicture},
   };
   return kCommands;
 }
