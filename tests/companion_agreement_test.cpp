@@ -260,8 +260,8 @@ TEST_F(AgreeCommand, RefusesWhatCannotBeCompared) {
 TEST_F(AgreeCommand, TakesListsAsReadersAndLeavesDamagedLinesOut) {
   Write("empty.tlf", "");
   Write("other.tlf", "t_op(2\r\n" + Line("2\\ 5", "", "relative"));
-  const Outcome run = Agree({"--csv", "--by", "file", "--match", "overlap", "--tags", "x.tlf", "--tags",
-                         "other.tlf", "--tags", "empty.tlf", "x.rtf"});
+  const Outcome run = Agree({"--csv", "--by", "file", "--match", "overlap", "--tags", "x.tlf",
+                             "--tags", "other.tlf", "--tags", "empty.tlf", "x.rtf"});
   EXPECT_EQ(run.code, 1);
   EXPECT_NE(run.err.find("other.tlf:1: "), std::string::npos) << run.err;
   EXPECT_NE(run.out.find("\r\nother.tlf,x.tlf,span,matched,1,1\r\n"), std::string::npos) << run.out;

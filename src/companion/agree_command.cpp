@@ -156,6 +156,7 @@ void RunAgree(const Options& options, Console& console) {
     }
   }
   std::vector<Reading> all;
+  all.reserve(readings.size());
   for (const auto& [name, reading] : readings) all.push_back(reading);
   CompareAll(all, figures);
   output.Write(options.csv ? CsvOf(figures.All()) : TableOf(figures.All()));

@@ -368,8 +368,8 @@ class Drawing {
     std::string out = "<g id=\"legend\" font-size=\"11\" fill=\"" + std::string(kInk) +
                       "\" transform=\"translate(0 " + Number(y) + ")\">\n";
     double x = left_ + 6;
-    const auto entry = [&](std::string sign, std::u32string_view words) {
-      out += sign + Text(x + 12, 4, words);
+    const auto entry = [&](const std::string& sign, std::u32string_view words) {
+      out.append(sign).append(Text(x + 12, 4, words));
       x += 34 + 6 * static_cast<double>(words.size());
     };
     const auto mark = [&](Kind shape, Kind colour, Mode mode, std::u32string_view words) {
