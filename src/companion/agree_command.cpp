@@ -1,12 +1,11 @@
-// The figures of all pairs of readers, and of all readers together, as a table to read or as CSV.
+// The figures of a comparison as a table to read or as CSV.
 
 #include <array>
 #include <charconv>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "companion/agreement.h"
+#include "companion/agreement_figures.h"
 #include "companion/command.h"
 #include "companion/csv.h"
 #include "companion/output.h"
@@ -15,21 +14,8 @@
 namespace quill::companion {
 namespace {
 
-constexpr std::array<const char*, kJudgedFields> kFieldNames = {"class", "operator", "mode", "type",
-                                                                "granularity"};
 constexpr int kCsvDigits = 12;  // behind the point
 constexpr int kTableDigits = 3;
-
-// One figure and the number of cases that it rests on.
-struct Figure {
-  std::string readerA;
-  std::string readerB;
-  std::string field;
-  std::string measure;
-  std::optional<double> value;
-  std::int64_t n = 0;
-  bool isCount = false;
-};
 
 std::string Written(const Figure& figure, int digits) {
   if (figure.isCount) return std::to_string(figure.n);
@@ -38,66 +24,6 @@ std::string Written(const Figure& figure, int digits) {
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), *figure.value,
                                  std::chars_format::fixed, digits);
   return {buffer.data(), end.ptr};
-}
-
-class Figures {
- public:
-  void Of(std::string readerA, std::string readerB, const char* field) {
-    readerA_ = std::move(readerA);
-    readerB_ = std::move(readerB);
-    field_ = field;
-  }
-  void Count(const char* measure, std::int64_t count) { Push(measure, {}, count, true); }
-  void Value(const char* measure, std::optional<double> value, std::int64_t n) {
-    Push(measure, value, n, false);
-  }
-  const std::vector<Figure>& All() const { return figures_; }
-
- private:
-  void Push(const char* measure, std::optional<double> value, std::int64_t n, bool isCount) {
-    figures_.push_back({readerA_, readerB_, field_, measure, value, n, isCount});
-  }
-
-  std::string readerA_;
-  std::string readerB_;
-  const char* field_ = "";
-  std::vector<Figure> figures_;
-};
-
-using Named = std::pair<const std::string, Reading>;
-
-void ComparePair(const Named& a, const Named& b, bool overlapping, Figures& figures) {
-  const Matches matches =
-      overlapping ? MatchOverlapping(a.second, b.second) : MatchEqual(a.second, b.second);
-  const SpanAgreement spans{static_cast<std::int64_t>(a.second.size()),
-                            static_cast<std::int64_t>(b.second.size()),
-                            static_cast<std::int64_t>(matches.size())};
-  figures.Of(a.first, b.first, "span");
-  figures.Count("spans_a", spans.spansA);
-  figures.Count("spans_b", spans.spansB);
-  figures.Count("matched", spans.matched);
-  figures.Value("precision", spans.Precision(), spans.spansB);
-  figures.Value("recall", spans.Recall(), spans.spansA);
-  figures.Value("f1", spans.F1(), spans.spansA + spans.spansB);
-  for (std::size_t field = 0; field < kJudgedFields; ++field) {
-    const LabelAgreement labels = CompareLabels(a.second, b.second, matches, field);
-    figures.Of(a.first, b.first, kFieldNames[field]);
-    figures.Count("n", labels.compared);
-    figures.Value("agreement", labels.Agreement(), labels.compared);
-    figures.Value("kappa", labels.kappa, labels.compared);
-  }
-  const ReferenceAgreement references = CompareReferences(a.second, b.second, matches);
-  figures.Of(a.first, b.first, "reference");
-  figures.Count("n", references.compared);
-  figures.Value("agreement", references.Agreement(), references.compared);
-}
-
-void CompareAll(const std::vector<Reading>& readings, Figures& figures) {
-  for (std::size_t field = 0; field < kJudgedFields; ++field) {
-    const Reliability reliability = MeasureReliability(readings, field);
-    figures.Of("*", "*", kFieldNames[field]);
-    figures.Value("alpha", reliability.alpha, reliability.units);
-  }
 }
 
 std::string CsvOf(const std::vector<Figure>& figures) {
@@ -148,18 +74,10 @@ std::string TableOf(const std::vector<Figure>& figures) {
 
 void RunAgree(const Options& options, Console& console) {
   Output output(options, console);
-  const std::map<std::string, Reading> readings = ReadingsOf(options, console);
-  Figures figures;
-  for (auto a = readings.begin(); a != readings.end(); ++a) {
-    for (auto b = std::next(a); b != readings.end(); ++b) {
-      ComparePair(*a, *b, options.match == "overlap", figures);
-    }
-  }
-  std::vector<Reading> all;
-  all.reserve(readings.size());
-  for (const auto& [name, reading] : readings) all.push_back(reading);
-  CompareAll(all, figures);
-  output.Write(options.csv ? CsvOf(figures.All()) : TableOf(figures.All()));
+  const std::vector<Figure> figures =
+      CompareReaders(ReadingsOf(options, console),
+                     options.match == "overlap" ? Matching::kOverlapping : Matching::kEqual);
+  output.Write(options.csv ? CsvOf(figures) : TableOf(figures));
   output.Finish();
 }
 
