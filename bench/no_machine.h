@@ -5,8 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "workbench/failure.h"
-#include "workbench/platform.h"
+#include "disk/disk.h"
+#include "disk/statement_failed.h"
+#include "workbench/dialogs.h"
 
 namespace quill::bench {
 

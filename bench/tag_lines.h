@@ -4,7 +4,7 @@
 #include <string>
 
 #include "tags/tag_record.h"
-#include "workbench/work_value.h"
+#include "text/numbers.h"
 
 namespace quill::bench {
 

@@ -11,7 +11,7 @@
 #include <fstream>
 #include <set>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "workbench/failure.h"
 
 namespace quill::test {

@@ -1,10 +1,10 @@
 // Opening, saving and leaving, on every path and with every failure.
 #include <gtest/gtest.h>
 
-#include "files/text_lines.h"
-#include "info/guidance.h"
+#include "disk/text_lines.h"
 #include "support/workbench.h"
 #include "text/unicode.h"
+#include "workbench/guidance.h"
 
 namespace quill::test {
 namespace {

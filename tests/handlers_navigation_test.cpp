@@ -4,6 +4,7 @@
 #include <random>
 
 #include "support/workbench.h"
+#include "text/numbers.h"
 #include "text/unicode.h"
 
 namespace quill::test {

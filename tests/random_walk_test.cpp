@@ -13,7 +13,7 @@
 #include <map>
 #include <set>
 
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 #include "rtf/reader.h"
 #include "scenario/state.h"
 #include "support/random_user.h"

@@ -6,6 +6,7 @@
 #include "tags/tag_check.h"
 #include "tags/tag_record.h"
 #include "tags/tag_removal.h"
+#include "text/numbers.h"
 #include "text/unicode.h"
 
 namespace quill::test {

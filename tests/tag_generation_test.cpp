@@ -1,8 +1,8 @@
 // Generating a tag where its file fails.
 #include <gtest/gtest.h>
 
-#include "info/guidance.h"
 #include "support/workbench.h"
+#include "workbench/guidance.h"
 
 namespace quill::test {
 namespace {

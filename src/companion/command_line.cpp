@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "companion/command.h"
-#include "workbench/failure.h"
+#include "disk/statement_failed.h"
 
 namespace quill::companion {
 namespace {

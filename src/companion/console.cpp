@@ -4,7 +4,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "workbench/failure.h"
+#include "disk/statement_failed.h"
 
 namespace quill::companion {
 

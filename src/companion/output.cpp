@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "companion/tagged_text.h"
-#include "files/descriptor.h"
-#include "files/posix_disk.h"
-#include "workbench/failure.h"
+#include "disk/descriptor.h"
+#include "disk/posix_disk.h"
+#include "disk/statement_failed.h"
 
 namespace quill::companion {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "companion/csv.h"
 #include "companion/tagged_text.h"
+#include "disk/statement_failed.h"
 #include "text/unicode.h"
-#include "workbench/failure.h"
 
 namespace quill::companion {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 #include "text/unicode.h"
 
 namespace quill::companion {

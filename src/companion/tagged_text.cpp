@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <optional>
 
-#include "files/posix_disk.h"
-#include "files/text_family.h"
+#include "disk/posix_disk.h"
+#include "disk/statement_failed.h"
+#include "disk/text_family.h"
 #include "rtf/reader.h"
 #include "text/unicode.h"
-#include "workbench/failure.h"
 
 namespace quill::companion {
 namespace {
@@ -57,9 +57,7 @@ Text ReadText(const std::string& path) {
   return {document->Text(), RaisedRunsOf(*document)};
 }
 
-std::string ListBeside(const std::string& path) {
-  return EncodePath(BaseOf(DecodePath(path)) + U".tlf");
-}
+std::string ListBeside(const std::string& path) { return EncodePath(TagListOf(DecodePath(path))); }
 
 std::vector<std::string> ListsOf(const std::string& file, const Options& options) {
   return options.lists.empty() ? std::vector{ListBeside(file)} : options.lists;

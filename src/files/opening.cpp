@@ -1,9 +1,8 @@
 #include "files/opening.h"
 
-#include "files/text_family.h"
-#include "files/text_lines.h"
-#include "info/guidance.h"
+#include "disk/text_family.h"
 #include "tags/tag_editor.h"
+#include "tags/tag_list_file.h"
 #include "text/unicode.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
@@ -19,13 +18,19 @@ void ShowOpenDialog(Form1& form) {
   form.CommonDialog1.ShowOpen();
 }
 
+// Makes the file if it is missing.
+void OpenSpecificDict(Form1& form) {
+  form.WorkState.SpecificDictFile = DictionaryOf(form.WorkState.TextBaseFile.Text());
+  form.TheDisk().CreateIfMissing(EncodePath(form.WorkState.SpecificDictFile.Text()));
+}
+
 // The new text becomes the working copy's text; its tag list and dictionary stay as they are.
 void MakeWorkingCopy(Form1& form) {
   form.User_Dialogue.Text =
       U"Please save a *.tbf working copy before you start working with this file.";
   form.CommonDialog1.DialogTitle = U"Create and save a *.tbf working copy of the input file";
   form.CommonDialog1.CancelError = false;
-  form.CommonDialog1.FileName = BaseOf(form.WorkState.TextBaseFile.Text()) + U".tbf";
+  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile.Text());
   form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
   form.CommonDialog1.ShowSave();
   if (form.CommonDialog1.FileName.empty()) return;
@@ -66,17 +71,6 @@ void Open(Form1& form) {
 
 void mnuFileOpen_Click(Form1& form) {
   LeaveOnFailure([&] { Open(form); });
-}
-
-void LoadTagList(Form1& form) {
-  DeriveTagListFile(form);
-  const std::string path = EncodePath(form.WorkState.TagListFile.Text());
-  form.TheDisk().CreateIfMissing(path);
-  form.TakenTags = {};
-  for (const std::u32string& line : DecodeLines(form.TheDisk().Read(path))) {
-    form.TagList.AddItem(line);
-  }
-  form.User_Dialogue.Text = PreProcessIntro();
 }
 
 }  // namespace quill

@@ -9,7 +9,4 @@ class Form1;
 // Ends silently at the first step that fails; what was done up to there stands.
 void mnuFileOpen_Click(Form1& form);
 
-// Adds the lines of the tag list file to TagList, making the file if it is missing.
-void LoadTagList(Form1& form);
-
 }  // namespace quill

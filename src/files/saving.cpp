@@ -1,6 +1,7 @@
 #include "files/saving.h"
 
-#include "files/text_family.h"
+#include "disk/text_family.h"
+#include "tags/tag_list_file.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
@@ -11,7 +12,7 @@ namespace {
 void ShowSaveDialog(Form1& form) {
   form.CommonDialog1.DialogTitle = U"Save your tagged *.tbf-file";
   form.CommonDialog1.CancelError = false;
-  form.CommonDialog1.FileName = BaseOf(form.WorkState.TextBaseFile.Text()) + U".tbf";
+  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile.Text());
   form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
   form.CommonDialog1.ShowSave();
 }

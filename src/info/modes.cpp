@@ -1,8 +1,8 @@
 #include "info/modes.h"
 
-#include "info/guidance.h"
 #include "tags/tag_editor.h"
 #include "workbench/form1.h"
+#include "workbench/guidance.h"
 
 namespace quill {
 

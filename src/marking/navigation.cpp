@@ -5,6 +5,7 @@
 
 #include "tags/tag_editor.h"
 #include "tags/underlines.h"
+#include "text/numbers.h"
 #include "workbench/form1.h"
 
 namespace quill {

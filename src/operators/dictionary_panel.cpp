@@ -1,6 +1,6 @@
 #include "operators/dictionary_panel.h"
 
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 #include "operators/dictionary_entry.h"
 #include "text/unicode.h"
 #include "workbench/failure.h"

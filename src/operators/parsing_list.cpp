@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 #include "operators/dictionary_entry.h"
 #include "text/unicode.h"
 #include "workbench/failure.h"

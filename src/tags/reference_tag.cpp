@@ -3,6 +3,7 @@
 #include "tags/covering_tag.h"
 #include "tags/tag_editor.h"
 #include "tags/tag_record.h"
+#include "text/numbers.h"
 #include "workbench/form1.h"
 
 namespace quill {

@@ -1,9 +1,9 @@
 #include "tags/tag_generation.h"
 
-#include "files/text_family.h"
 #include "tags/tag_list_file.h"
 #include "tags/tag_record.h"
 #include "tags/underlines.h"
+#include "text/numbers.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
@@ -12,6 +12,17 @@ namespace {
 
 // How far above the baseline a tagged term stands, in twips.
 constexpr Twips kRaised = 25;
+
+// The tag that stands in the tag editor, whatever its mode: views of its controls.
+TagFields EditorFields(const Form1& form) {
+  return {
+      form.ID.Text.Get(),          form.StartPosition.Text.Get(), form.EndPosition.Text.Get(),
+      form.marked_term.Text.Get(), form.SessionID.Text.Get(),     form.UserID1.Text.Get(),
+      form.ClassCombo.Text.Get(),  form.OperatorCombo.Text.Get(), form.ModeCombo.Text.Get(),
+      form.TypeCombo.Text.Get(),   form.GranCombo.Text.Get(),     form.ValBox.Text.Get(),
+      form.RefBox.Text.Get(),      form.RefTagStart.Text.Get(),   form.RefTagStop.Text.Get(),
+  };
+}
 
 // Magenta warns of a tag that is not filled in. Three of the five texts are no placeholders of the
 // present form: a tag that shows "Operator", "Mode" or "Value ?" draws no warning.
@@ -33,7 +44,7 @@ void Generate_Tag_Click(Form1& form) {
   if (form.TagList.ListIndex != -1) TakeSelectedTag(form);
   AssignNextTagID(form);
   form.ID.Text = form.WorkState.NextTagID.Text();
-  form.WorkState.GeneratedTag = ComposeTag(form);
+  form.WorkState.GeneratedTag = ComposeTag(EditorFields(form));
   ColourTaggedString(form);
   form.TaggedString.Text = form.WorkState.GeneratedTag.Text();
   ApplyTagToText(form);
@@ -44,10 +55,8 @@ void AssignNextTagID(Form1& form) {
     form.WorkState.NextTagID = 1;
     return;
   }
-  CarryOn([&] {
-    const std::u32string& last = form.TagList.List(form.TagList.ListCount() - 1);
-    form.WorkState.NextTagID = CutTagNumber(last) + 1;
-  });
+  const std::u32string& last = form.TagList.List(form.TagList.ListCount() - 1);
+  if (const auto number = CutTagNumber(last)) form.WorkState.NextTagID = *number + 1;
 }
 
 void ApplyTagToText(Form1& form) {

@@ -6,9 +6,11 @@
 #include <unordered_map>
 #include <vector>
 
-#include "files/text_lines.h"
+#include "disk/text_family.h"
+#include "disk/text_lines.h"
 #include "text/unicode.h"
 #include "workbench/form1.h"
+#include "workbench/guidance.h"
 
 namespace quill {
 namespace {
@@ -16,8 +18,9 @@ namespace {
 // The lines of the file that the user gave up.
 std::string TakenLines(const Form1& form) {
   std::string bytes;
-  if (form.WorkState.TagListFile != form.TakenTags.file) return bytes;
-  for (const std::u32string& line : form.TakenTags.lines) bytes += EncodeLine(line) + "\r\n";
+  for (const std::u32string& line : form.TakenTags.Of(form.WorkState.TagListFile.Text())) {
+    bytes += EncodeLine(line) + "\r\n";
+  }
   return bytes;
 }
 
@@ -53,15 +56,40 @@ bool HoldsForeignLine(std::string_view file, std::string_view known) {
   return !std::includes(expected.begin(), expected.end(), there.begin(), there.end());
 }
 
+void DeriveTagListFile(Form1& form) {
+  form.WorkState.TagListFile = TagListOf(form.WorkState.TextBaseFile.Text());
+}
+
+// Returns its path.
+std::string MakeIfMissing(const Form1& form) {
+  std::string path = EncodePath(form.WorkState.TagListFile.Text());
+  form.TheDisk().CreateIfMissing(path);
+  return path;
+}
+
 }  // namespace
+
+void LoadTagList(Form1& form) {
+  DeriveTagListFile(form);
+  const std::string path = MakeIfMissing(form);
+  form.TakenTags.Forget();
+  for (const std::u32string& line : DecodeLines(form.TheDisk().Read(path))) {
+    form.TagList.AddItem(line);
+  }
+  form.User_Dialogue.Text = PreProcessIntro();
+}
+
+void EnsureTagListFile(Form1& form) {
+  DeriveTagListFile(form);
+  MakeIfMissing(form);
+  form.User_Dialogue.Text = ProcessGuidance();
+}
 
 void TakeSelectedTag(Form1& form) {
   const int index = form.TagList.ListIndex;
   const std::u32string line = form.TagList.List(index);
   form.WorkState.CurrentTag = line;
-  const std::u32string file = form.WorkState.TagListFile.Text();
-  if (form.TakenTags.file != file) form.TakenTags = {file, {}};
-  form.TakenTags.lines.push_back(line);
+  form.TakenTags.Add(form.WorkState.TagListFile.Text(), line);
   form.TagList.RemoveItem(index);
 }
 
@@ -71,17 +99,16 @@ void AppendGeneratedTag(Form1& form) {
 }
 
 void RewriteTagListFile(Form1& form) {
-  const std::string path = EncodePath(form.WorkState.TagListFile.Text());
   std::string bytes;
   for (const std::u32string& line : form.TagList.Items()) bytes += EncodeLine(line) + "\r\n";
   bytes.insert(0, MarkInFrontOf(bytes));
-  form.TheDisk().CreateIfMissing(path);
+  const std::string path = MakeIfMissing(form);
   if (HoldsForeignLine(form.TheDisk().Read(path), bytes + TakenLines(form))) {
     form.TheDisk().ReplaceKeepingOld(path, bytes);
   } else {
     form.TheDisk().Replace(path, bytes);
   }
-  form.TakenTags = {};
+  form.TakenTags.Forget();
 }
 
 }  // namespace quill

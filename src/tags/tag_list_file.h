@@ -1,4 +1,4 @@
-// Writing tag lines to the tag list file, beside the text.
+// The tag list file, beside the text: its lines into TagList and back.
 //
 // List and file part and meet again: an edit appends to the file and leaves the old line in it, a
 // removal may be left unsaved, and other programs may write to the file. So a rewrite from the list
@@ -8,6 +8,14 @@
 namespace quill {
 
 class Form1;
+
+// Lets TagListFile follow TextBaseFile, makes the file if it is missing, adds its lines to TagList
+// and shows the introduction. Fails where the file can be neither made nor read.
+void LoadTagList(Form1& form);
+
+// Lets TagListFile follow TextBaseFile, makes the file if it is missing, and shows the guidance to
+// the Process menu. Fails, without the guidance, where the file cannot be made.
+void EnsureTagListFile(Form1& form);
 
 // Takes the selected item out of TagList, to be edited or removed; its line becomes CurrentTag.
 // Fails where no item is selected.

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "workbench/failure.h"
-#include "workbench/form1.h"
+#include "text/numbers.h"
 
 namespace quill {
 namespace {
@@ -37,26 +36,6 @@ std::u32string ComposeTag(const TagFields& fields) {
   return line;
 }
 
-std::u32string ComposeTag(const Form1& form) {
-  return ComposeTag(TagFields{
-      form.ID.Text.Get(),
-      form.StartPosition.Text.Get(),
-      form.EndPosition.Text.Get(),
-      form.marked_term.Text.Get(),
-      form.SessionID.Text.Get(),
-      form.UserID1.Text.Get(),
-      form.ClassCombo.Text.Get(),
-      form.OperatorCombo.Text.Get(),
-      form.ModeCombo.Text.Get(),
-      form.TypeCombo.Text.Get(),
-      form.GranCombo.Text.Get(),
-      form.ValBox.Text.Get(),
-      form.RefBox.Text.Get(),
-      form.RefTagStart.Text.Get(),
-      form.RefTagStop.Text.Get(),
-  });
-}
-
 TagFields CutTag(std::u32string_view line, std::size_t count) {
   TagFields fields;
   std::size_t start = kOpening.size();
@@ -81,12 +60,12 @@ TagSpan CutTagSpan(std::u32string_view line) {
   return {Val(fields[TagField::kStart]), Val(fields[TagField::kEnd])};
 }
 
-double CutTagNumber(std::u32string_view line) {
+std::optional<double> CutTagNumber(std::u32string_view line) {
   const std::size_t opening = line.find(U'(');
   // Without a parenthesis the text begins at the head of the line.
   const std::size_t start = opening == kMissing ? 0 : opening + 1;
   const std::size_t end = line.find(U'\\');
-  if (end == kMissing || start > end) throw StatementFailed("the tag line has no number");
+  if (end == kMissing || start > end) return std::nullopt;
   return NumberFromDigits(line.substr(start, end - start));
 }
 

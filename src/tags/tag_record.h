@@ -11,12 +11,11 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace quill {
-
-class Form1;
 
 // The fields in the order of the line, as indices into TagFields.
 struct TagField {
@@ -43,8 +42,6 @@ struct TagField {
 using TagFields = std::array<std::u32string_view, TagField::kCount>;
 
 std::u32string ComposeTag(const TagFields& fields);
-// Of the tag that stands in the tag editor, whatever its mode.
-std::u32string ComposeTag(const Form1& form);
 
 // Views into the line. A missing separator makes all later ones missing; a field whose separators
 // are missing, or stand in no order, is empty. The last field keeps the blank of the closing " )".
@@ -60,7 +57,7 @@ struct TagSpan {
 TagSpan CutTagSpan(std::u32string_view line);
 
 // The number of a tag, cut in the way of the numbering: between the first "(" and the first "\".
-// Fails (StatementFailed) where that is not decimal digits only.
-double CutTagNumber(std::u32string_view line);
+// Nothing where that is not decimal digits only.
+std::optional<double> CutTagNumber(std::u32string_view line);
 
 }  // namespace quill

@@ -2,6 +2,7 @@
 
 #include "tags/tag_editor.h"
 #include "tags/tag_record.h"
+#include "text/numbers.h"
 #include "workbench/form1.h"
 
 namespace quill {

@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "program/program.h"
 #include "window/appearance.h"
 #include "window/application.h"

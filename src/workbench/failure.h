@@ -1,19 +1,12 @@
-// How a statement of a handler fails, and what becomes of the rest of the handler.
+// What becomes of the rest of a handler where one of its statements fails. Nothing but
+// StatementFailed is caught: the end of the program and bugs pass through.
 #pragma once
 
-#include <stdexcept>
-#include <string>
 #include <utility>
 
-namespace quill {
+#include "disk/statement_failed.h"
 
-// A statement that the window system refuses: a file that cannot be read, an index outside a list,
-// a text that is no number. It is the one failure that handlers know. The end of the program, a
-// missing answer of a scenario and bugs are other types and pass through.
-class StatementFailed : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+namespace quill {
 
 // "Carry on": the statement, or the procedure called, is given up where it fails, and the next one
 // runs.

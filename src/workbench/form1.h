@@ -7,8 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "disk/disk.h"
 #include "workbench/control.h"
-#include "workbench/platform.h"
+#include "workbench/dialogs.h"
+#include "workbench/taken_tags.h"
 #include "workbench/text_surface.h"
 #include "workbench/work_state.h"
 

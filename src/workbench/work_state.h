@@ -1,9 +1,6 @@
 // The one record of form-level state. It lives as long as the program and is never stored.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "workbench/work_value.h"
 
 namespace quill {
@@ -50,13 +47,6 @@ struct WorkState {
     visit("ParseTerm", ParseTerm);
     visit("ParseCategory", ParseCategory);
   }
-};
-
-// The lines that the user took out of TagList, to remove or to edit them, while a tag list file
-// still holds them. Whoever rewrites that file may drop these lines and no others.
-struct TakenTags {
-  std::u32string file;
-  std::vector<std::u32string> lines;
 };
 
 }  // namespace quill

@@ -1,4 +1,4 @@
-// Dynamically typed values of the record of working state, and numbers in texts.
+// Dynamically typed values of the record of working state.
 #pragma once
 
 #include <string>
@@ -37,16 +37,5 @@ bool operator==(const WorkValue& value, std::u32string_view literal);
 WorkValue operator+(const WorkValue& left, double right);
 // In characters; 0 for Empty.
 double Len(const WorkValue& value);
-
-// Reads the number at the head of a text: blanks, tabs and line ends are dropped wherever they
-// stand, then come an optional sign, ASCII digits and at most one decimal point. 0 without a
-// number; no exponents.
-double Val(std::u32string_view text);
-
-// A number as text: whole numbers without a decimal point, others in their shortest form.
-std::u32string DecimalText(double number);
-
-// A text that is decimal digits only, as a number. Anything else fails (StatementFailed).
-double NumberFromDigits(std::u32string_view text);
 
 }  // namespace quill

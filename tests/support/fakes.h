@@ -14,8 +14,9 @@
 #include <variant>
 #include <vector>
 
-#include "workbench/failure.h"
-#include "workbench/platform.h"
+#include "disk/disk.h"
+#include "disk/statement_failed.h"
+#include "workbench/dialogs.h"
 
 namespace quill::test {
 

@@ -5,7 +5,7 @@
 #include <iosfwd>
 
 #include "scenario/step.h"
-#include "workbench/platform.h"
+#include "workbench/dialogs.h"
 
 namespace quill::scenario {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <ostream>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "scenario/line_reader.h"
 #include "scenario/state.h"
 

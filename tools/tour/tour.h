@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "hands/dialog_hands.h"
 #include "hands/hands.h"
 #include "hands/shown_program.h"

@@ -6,7 +6,7 @@
 // one that another running program is writing makes the save fail.
 #pragma once
 
-#include "workbench/platform.h"
+#include "disk/disk.h"
 
 namespace quill {
 

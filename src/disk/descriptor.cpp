@@ -1,4 +1,4 @@
-#include "files/descriptor.h"
+#include "disk/descriptor.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "workbench/failure.h"
+#include "disk/statement_failed.h"
 
 namespace quill {
 namespace {

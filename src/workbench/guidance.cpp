@@ -1,4 +1,4 @@
-#include "info/guidance.h"
+#include "workbench/guidance.h"
 
 namespace quill {
 namespace {

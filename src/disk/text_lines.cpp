@@ -1,4 +1,4 @@
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "files/replacement.h"
+#include "disk/replacement.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

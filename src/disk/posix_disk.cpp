@@ -1,4 +1,4 @@
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -9,10 +9,10 @@
 #include <cstddef>
 #include <optional>
 
-#include "files/descriptor.h"
-#include "files/replacement.h"
-#include "files/text_lines.h"
-#include "workbench/failure.h"
+#include "disk/descriptor.h"
+#include "disk/replacement.h"
+#include "disk/statement_failed.h"
+#include "disk/text_lines.h"
 
 namespace quill {
 namespace {

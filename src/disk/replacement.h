@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "files/descriptor.h"
+#include "disk/descriptor.h"
 
 namespace quill {
 

@@ -1,0 +1,15 @@
+// The one failure that handlers know.
+#pragma once
+
+#include <stdexcept>
+
+namespace quill {
+
+// An operation that fails: a file that cannot be read, an index outside a list, a text that is no
+// number. The end of the program, a missing answer of a scenario and bugs are other types.
+class StatementFailed : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace quill

@@ -1,0 +1,24 @@
+#include "disk/text_family.h"
+
+#include <algorithm>
+
+namespace quill {
+namespace {
+
+// Nothing of a path that has no more than four characters.
+std::u32string BaseOf(const std::u32string& path) {
+  constexpr std::size_t kCut = 4;
+  return path.substr(0, path.size() - std::min(path.size(), kCut));
+}
+
+}  // namespace
+
+std::u32string WorkingCopyOf(const std::u32string& path) { return BaseOf(path) + U".tbf"; }
+
+std::u32string TagListOf(const std::u32string& path) { return BaseOf(path) + U".tlf"; }
+
+std::u32string DictionaryOf(const std::u32string& path) { return BaseOf(path) + U".spd"; }
+
+bool IsWorkingCopy(const std::u32string& path) { return path.ends_with(U"tbf"); }
+
+}  // namespace quill

@@ -1,0 +1,30 @@
+// The lines that the user took out of TagList, to edit or to remove them, while the tag list file
+// still holds them. Whoever rewrites that file may drop these lines and no others.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quill {
+
+class TakenTags {
+ public:
+  // Lines of another file are forgotten.
+  void Add(const std::u32string& file, std::u32string line) {
+    if (file_ != file) *this = {};
+    file_ = file;
+    lines_.push_back(std::move(line));
+  }
+  // None where the lines are those of another file.
+  std::vector<std::u32string> Of(const std::u32string& file) const {
+    return file == file_ ? lines_ : std::vector<std::u32string>();
+  }
+  void Forget() { *this = {}; }
+
+ private:
+  std::u32string file_;
+  std::vector<std::u32string> lines_;
+};
+
+}  // namespace quill
