@@ -10,6 +10,7 @@
 #include "generated_text.h"
 #include "rtf/reader.h"
 #include "rtf/writer.h"
+#include "text/marks.h"
 
 namespace quill::bench {
 namespace {
@@ -61,7 +62,7 @@ void MarkWords(Document& document) {
   while (begin < document.Length()) {
     auto end = static_cast<Position>(text.find(U' ', static_cast<std::size_t>(begin)));
     if (end < 0) end = document.Length();
-    if (marked) document.Apply({begin, end}, {.colour = RGB(255, 0, 0), .bold = true});
+    if (marked) document.Apply({begin, end}, {.colour = kMarkedB, .bold = true});
     marked = !marked;
     begin = end + 1;
   }
@@ -76,7 +77,7 @@ void SaveNewMarks(benchmark::State& state) {
 // Takes every mark of the file off again: each of its groups is dissolved.
 void SaveWithoutMarks(benchmark::State& state) {
   Document document = Loaded(Kind::kMarked, state.range(0));
-  document.Apply({0, document.Length()}, {.colour = RGB(0, 0, 0), .bold = false});
+  document.Apply({0, document.Length()}, {.colour = kPlain, .bold = false});
   Save(state, document);
 }
 

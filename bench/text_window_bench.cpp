@@ -9,6 +9,7 @@
 
 #include "generated_text.h"
 #include "rtf/reader.h"
+#include "text/marks.h"
 #include "window_bench.h"
 
 namespace quill::bench {
@@ -68,7 +69,7 @@ void Find(benchmark::State& state) {
   TextSurface& text = reader.Form().RichTextBox1;
   std::vector<Range> marks;
   for (Position at = distance; at < text.Length(); at += distance) marks.push_back({at, at + 5});
-  text.Format(marks, {.colour = RGB(0, 0, 255)});
+  text.Format(marks, {.colour = kMarkedA});
   reader.Choose("mnuPostProcess");
   QTest::qWait(2000);
   for (auto _ : state) {

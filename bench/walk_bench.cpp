@@ -14,6 +14,7 @@
 #include "no_machine.h"
 #include "program/program.h"
 #include "rtf/reader.h"
+#include "text/marks.h"
 
 namespace quill::bench {
 namespace {
@@ -62,9 +63,9 @@ void NoMark(benchmark::State& state) {
 void OnlyMarksOfTheOtherKind(benchmark::State& state) {
   Document document = *rtf::Read(GeneratedText(Kind::kMarked, state.range(0)));
   for (Position at = 0; at < document.Length();) {
-    const Position mark = document.FindColour({at, document.Length()}, RGB(0, 0, 255));
-    at = document.FindOtherColour({mark, document.Length()}, RGB(0, 0, 255));
-    document.Apply({mark, at}, {.colour = RGB(255, 0, 0)});
+    const Position mark = document.FindColour({at, document.Length()}, kMarkedA);
+    at = document.FindOtherColour({mark, document.Length()}, kMarkedA);
+    document.Apply({mark, at}, {.colour = kMarkedB});
   }
   WalkToTheEnd(state, std::move(document));
 }

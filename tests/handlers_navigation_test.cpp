@@ -4,6 +4,7 @@
 #include <random>
 
 #include "support/workbench.h"
+#include "text/marks.h"
 #include "text/numbers.h"
 #include "text/unicode.h"
 
@@ -112,7 +113,7 @@ TEST(Navigation, DoesWhatThePlainLoopDoes) {
     for (int step = 0; step < 3; ++step) {
       const bool kindA = random() % 2 == 0;
       fast.program.Click(kindA ? fast.form.FindAMarker : fast.form.FindBMarker);
-      PlainWalk{plain.form, kindA ? RGB(0, 0, 255) : RGB(255, 0, 0)}.Find();
+      PlainWalk{plain.form, kindA ? kMarkedA : kMarkedB}.Find();
       ASSERT_EQ(Outcome(fast.form), Outcome(plain.form))
           << drawing << " from " << ToUtf8(tagEnd.Text()) << ", step " << step;
     }

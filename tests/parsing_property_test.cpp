@@ -7,6 +7,7 @@
 #include <random>
 
 #include "support/workbench.h"
+#include "text/marks.h"
 
 namespace quill::test {
 namespace {
@@ -70,11 +71,11 @@ void PlainScan(Form1& form, const std::function<void(TextSurface&, const Chars&)
 
 void PlainMark(TextSurface& text, const Chars& category) {
   if (category == U"A") {
-    text.SelColor = RGB(128, 128, 255);
+    text.SelColor = kFoundA;
     text.SelBold = true;
   }
   if (category == U"B") {
-    text.SelColor = RGB(255, 0, 0);
+    text.SelColor = kMarkedB;
     text.SelBold = true;
   }
   const std::optional<Twips> offset = text.SelCharOffset;
@@ -137,7 +138,7 @@ class Dice {
     FormatTable formats;
     std::vector<FormatId> ids;
     while (ids.size() < text.size()) {
-      constexpr Colour kColours[] = {0, RGB(0, 0, 255), RGB(255, 0, 0), RGB(128, 128, 255)};
+      constexpr Colour kColours[] = {0, kMarkedA, kMarkedB, kFoundA};
       constexpr Twips kOffsets[] = {0, 0, 0, 25, 30, -20};
       Format format;
       format.now = {kColours[Below(4)], Below(2) == 0, Below(3) == 0, kOffsets[Below(6)]};
@@ -240,10 +241,10 @@ TEST(ParsingProperty, OneTermWithAndWithoutQuestions) {
       if (!asks) return PlainMark(text, category);
       const bool yes = answers() % 3 != 0;
       fast.dialogs.answers.emplace_back(yes ? 6 : 7);
-      if (!yes) text.SelColor = RGB(0, 0, 0);
-      if (yes) text.SelColor = RGB(192, 0, 192);
-      if (yes && category == U"A") text.SelColor = RGB(0, 0, 255);
-      if (yes && category == U"B") text.SelColor = RGB(255, 0, 0);
+      if (!yes) text.SelColor = kPlain;
+      if (yes) text.SelColor = kAskedAbout;
+      if (yes && category == U"A") text.SelColor = kMarkedA;
+      if (yes && category == U"B") text.SelColor = kMarkedB;
       const std::optional<Twips> offset = text.SelCharOffset;
       text.SelBold = yes && !(offset && *offset > 0);
       text.SelUnderline = false;

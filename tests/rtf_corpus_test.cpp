@@ -12,6 +12,7 @@
 #include "rtf/writer.h"
 #include "support/rich_text.h"
 #include "support/scenario_folder.h"
+#include "text/marks.h"
 
 namespace quill {
 namespace {
@@ -60,7 +61,7 @@ TEST_F(RealFile, ComesBackByteForByteAfterMarkingAndUnmarking) {
     if (plain) continue;
     for (const Range& range : SomeStretches(*document, 1)) {
       const std::vector<Attributes> before = AttributesOf(*document, range);
-      document->Apply(range, {RGB(0, 0, 255), true, true, 25});
+      document->Apply(range, {kMarkedA, true, true, kRaised});
       Restore(*document, range, before);
     }
     EXPECT_TRUE(rtf::Write(*document) == bytes);
@@ -110,8 +111,7 @@ TEST_F(RealFile, DoesNotGrowByMarkingAndUnmarking) {
     std::size_t firstMarked = 0;
     std::size_t firstUnmarked = 0;
     for (int round = 0; round < 4; ++round) {
-      for (const Range& range : stretches)
-        document->Apply(range, {RGB(255, 0, 0), true, false, 25});
+      for (const Range& range : stretches) document->Apply(range, {kMarkedB, true, false, kRaised});
       std::string bytes = rtf::Write(*document);
       if (round == 0) firstMarked = bytes.size();
       EXPECT_EQ(bytes.size(), firstMarked);

@@ -13,6 +13,7 @@
 #include "rtf/writer.h"
 #include "support/fakes.h"
 #include "support/rich_text.h"
+#include "text/marks.h"
 #include "text/unicode.h"
 
 namespace quill {
@@ -73,7 +74,7 @@ TEST_F(Surface, SelectsTheSpansOfTags) {
 TEST_F(Surface, ReadsOneValueOrNone) {
   Load("a{\\cf1\\up3 bc}d");
   Select(1, 2);
-  EXPECT_EQ(text_.SelColor.Get(), RGB(0, 0, 255));
+  EXPECT_EQ(text_.SelColor.Get(), kMarkedA);
   EXPECT_EQ(text_.SelCharOffset.Get(), 30);
   Select(0, 2);
   EXPECT_EQ(text_.SelColor.Get(), std::nullopt);
@@ -84,7 +85,7 @@ TEST_F(Surface, ReadsOneValueOrNone) {
 TEST_F(Surface, TypesOverASelectionAsOneEdit) {
   Load("{\\b one {\\footnote note}two} three");
   Select(0, 7);
-  text_.SelColor = RGB(0, 0, 255);
+  text_.SelColor = kMarkedA;
   text_.TypeOver(U"one two");
   EXPECT_EQ(Dump(text_.Doc()), "<c16711680 b>one two</> three");
   EXPECT_NE(rtf::Write(text_.Doc()).find("{\\footnote note}"), std::string::npos);

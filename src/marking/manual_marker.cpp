@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "text/marks.h"
 #include "workbench/form1.h"
 
 namespace quill {
@@ -14,9 +15,7 @@ struct Marker {
   TextBox& box;
   CommandButton& set;
   CommandButton& reject;
-  Colour colour;
-  Colour lemmaColour;  // behind the lemma that Set hands to the dictionary panel
-  const char32_t* category;
+  OperatorKind kind;
   bool rejectClosesFrame1;
 };
 
@@ -26,9 +25,7 @@ Marker MarkerA(Form1& form) {
           .box = form.AMarkedString,
           .set = form.AMarkSet,
           .reject = form.AMarkReject,
-          .colour = RGB(0, 0, 255),
-          .lemmaColour = RGB(128, 128, 255),
-          .category = U"A",
+          .kind = OperatorKind::kA,
           .rejectClosesFrame1 = true};
 }
 
@@ -38,17 +35,15 @@ Marker MarkerB(Form1& form) {
           .box = form.BMarkedString,
           .set = form.BMarkSet,
           .reject = form.BMarkReject,
-          .colour = RGB(255, 0, 0),
-          .lemmaColour = RGB(255, 0, 0),
-          .category = U"B",
+          .kind = OperatorKind::kB,
           .rejectClosesFrame1 = false};
 }
 
 void Define(Form1& form, const Marker& marker) {
-  form.WorkState.MarkerColor = marker.colour;
+  form.WorkState.MarkerColor = MarkColour(marker.kind);
   form.RichTextBox1.SetFocus();
   if (form.RichTextBox1.SelLength > 0) {
-    form.RichTextBox1.SelColor = marker.colour;
+    form.RichTextBox1.SelColor = MarkColour(marker.kind);
     form.WorkState.MarkedTerm = form.RichTextBox1.SelText();
     marker.box.SetFocus();
     marker.box.Text = U"";
@@ -66,12 +61,12 @@ void Set(Form1& form, const Marker& marker) {
   const std::u32string term = marker.box.Text;
   form.RichTextBox1.SetFocus();
   form.SendKeys(term);
-  form.RichTextBox1.SelColor = marker.colour;
+  form.RichTextBox1.SelColor = MarkColour(marker.kind);
   form.RichTextBox1.SelBold = true;
   form.add_to_dictionary.Text = marker.box.Text;
-  form.add_to_dictionary.BackColor = marker.lemmaColour;
+  form.add_to_dictionary.BackColor = FoundColour(marker.kind);
   // Behind the write of the lemma, whose Change blanks the category.
-  form.operator_category.Text = marker.category;
+  form.operator_category.Text = std::u32string(CategoryOf(marker.kind));
   form.Frame1.Enabled = true;
   form.Add_to_global_dict.Enabled = true;
   form.Add_to_spec_dict.Enabled = true;
@@ -88,7 +83,7 @@ void Reject(Form1& form, const Marker& marker) {
   marker.box.SetFocus();
   marker.box.Text = U"";
   form.RichTextBox1.SetFocus();
-  form.RichTextBox1.SelColor = RGB(0, 0, 0);
+  form.RichTextBox1.SelColor = kPlain;
   form.RichTextBox1.SelBold = false;
   marker.set.Enabled = false;
   marker.define.Enabled = true;
@@ -96,7 +91,7 @@ void Reject(Form1& form, const Marker& marker) {
   if (marker.rejectClosesFrame1) form.Frame1.Enabled = false;
   form.Add_to_global_dict.Enabled = false;
   form.Add_to_spec_dict.Enabled = false;
-  form.add_to_dictionary.BackColor = RGB(255, 255, 255);
+  form.add_to_dictionary.BackColor = kNoLemmaKind;
   // Where the box held anything else, its Change opens Frame1 again.
   form.add_to_dictionary.Text = U" ";
 }

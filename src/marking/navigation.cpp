@@ -5,6 +5,7 @@
 
 #include "tags/tag_editor.h"
 #include "tags/underlines.h"
+#include "text/marks.h"
 #include "text/numbers.h"
 #include "workbench/form1.h"
 
@@ -59,19 +60,17 @@ void ShowRun(Form1& form) {
   text.SetFocus();
 }
 
+void FindMarkerOf(Form1& form, OperatorKind kind) {
+  form.WorkState.MarkerColor = MarkColour(kind);
+  ResetTagEditor(form);
+  FindNextMarker(form);
+}
+
 }  // namespace
 
-void FindAMarker_Click(Form1& form) {
-  form.WorkState.MarkerColor = RGB(0, 0, 255);
-  ResetTagEditor(form);
-  FindNextMarker(form);
-}
+void FindAMarker_Click(Form1& form) { FindMarkerOf(form, OperatorKind::kA); }
 
-void FindBMarker_Click(Form1& form) {
-  form.WorkState.MarkerColor = RGB(255, 0, 0);
-  ResetTagEditor(form);
-  FindNextMarker(form);
-}
+void FindBMarker_Click(Form1& form) { FindMarkerOf(form, OperatorKind::kB); }
 
 void Restart_PP_Click(Form1& form) {
   ResetTagEditor(form);

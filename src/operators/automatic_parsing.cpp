@@ -1,6 +1,7 @@
 #include "operators/automatic_parsing.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -8,23 +9,16 @@
 #include "operators/parse_item.h"
 #include "operators/term_search.h"
 #include "text/case_folding.h"
+#include "text/marks.h"
 #include "workbench/form1.h"
 
 namespace quill {
 namespace {
 
-enum class OperatorKind { kA, kB, kNone };
-
-OperatorKind KindOf(const WorkValue& category) {
-  if (category == U"A") return OperatorKind::kA;
-  if (category == U"B") return OperatorKind::kB;
-  return OperatorKind::kNone;
-}
-
 // One scan of the text for one item.
 struct Scan {
   std::size_t term = 0;
-  OperatorKind kind = OperatorKind::kNone;
+  std::optional<OperatorKind> kind;
 };
 
 // The scans of a run, in the order of the list, and the distinct terms that they look for.
@@ -35,7 +29,7 @@ class ScanList {
     const auto [entry, isNew] =
         numbers_.try_emplace(FoldCase(state.ParseTerm.Text()), terms_.size());
     if (isNew) terms_.push_back(entry->first);
-    scans_.push_back({entry->second, KindOf(state.ParseCategory)});
+    scans_.push_back({entry->second, KindOfCategory(state.ParseCategory.Text())});
   }
   const std::vector<Scan>& Scans() const { return scans_; }
   const std::vector<std::u32string>& Terms() const { return terms_; }
@@ -66,7 +60,7 @@ std::vector<Scan> ScansThatLast(const std::vector<Scan>& scans, std::size_t term
   std::vector<Later> later(terms, kNothing);
   std::vector<Scan> lasting;
   for (auto scan = scans.rbegin(); scan != scans.rend(); ++scan) {
-    const Later own = scan->kind == OperatorKind::kNone ? kWithoutKind : kWithKind;
+    const Later own = scan->kind ? kWithKind : kWithoutKind;
     if (later[scan->term] >= own) continue;
     later[scan->term] = own;
     lasting.push_back(*scan);
@@ -75,16 +69,15 @@ std::vector<Scan> ScansThatLast(const std::vector<Scan>& scans, std::size_t term
   return lasting;
 }
 
-void Mark(TextSurface& text, const std::vector<Range>& hits, OperatorKind kind) {
+void Mark(TextSurface& text, const std::vector<Range>& hits, std::optional<OperatorKind> kind) {
   std::vector<Range> raised;
   std::vector<Range> others;
   for (const Range& hit : hits) {
     (text.CharOffset(hit).value_or(0) > 0 ? raised : others).push_back(hit);
   }
   AttributeChange change;
-  if (kind == OperatorKind::kA) change.colour = RGB(128, 128, 255);
-  if (kind == OperatorKind::kB) change.colour = RGB(255, 0, 0);
-  if (kind != OperatorKind::kNone) {
+  if (kind) {
+    change.colour = FoundColour(*kind);
     change.bold = true;
     text.Format(others, change);
   }

@@ -3,6 +3,7 @@
 #include "operators/parse_item.h"
 #include "operators/term_search.h"
 #include "text/case_folding.h"
+#include "text/marks.h"
 #include "workbench/form1.h"
 
 namespace quill {
@@ -13,7 +14,7 @@ constexpr int kYes = 6;
 
 bool Confirmed(Form1& form) {
   TextSurface& text = form.RichTextBox1;
-  text.SelColor = RGB(192, 0, 192);
+  text.SelColor = kAskedAbout;
   text.SelUnderline = true;
   text.SelBold = true;
   return form.MsgBox(U"Mark this word?", kExclamationYesNo, U"Confirm markup") == kYes;
@@ -22,12 +23,8 @@ bool Confirmed(Form1& form) {
 void Mark(Form1& form) {
   TextSurface& text = form.RichTextBox1;
   text.SelUnderline = false;
-  if (form.WorkState.ParseCategory == U"A") {
-    text.SelColor = RGB(0, 0, 255);
-    text.SelBold = true;
-  }
-  if (form.WorkState.ParseCategory == U"B") {
-    text.SelColor = RGB(255, 0, 0);
+  if (const auto kind = KindOfCategory(form.WorkState.ParseCategory.Text())) {
+    text.SelColor = MarkColour(*kind);
     text.SelBold = true;
   }
   // A tagged term is raised and not bold.
@@ -35,7 +32,7 @@ void Mark(Form1& form) {
 }
 
 void MakePlain(TextSurface& text) {
-  text.SelColor = RGB(0, 0, 0);
+  text.SelColor = kPlain;
   text.SelBold = false;
   text.SelUnderline = false;
 }

@@ -2,6 +2,7 @@
 
 #include "disk/text_lines.h"
 #include "operators/dictionary_entry.h"
+#include "text/marks.h"
 #include "text/unicode.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
@@ -12,15 +13,15 @@ namespace {
 constexpr std::u32string_view kEmptyBox = U" ";
 constexpr int kCriticalOk = 16;
 
-void ChooseKind(Form1& form, const char32_t* category, Colour colour) {
+void ChooseKind(Form1& form, OperatorKind kind) {
   if (form.add_to_dictionary.Text == kEmptyBox) {
     ResetDictionaryPanel(form);
     return;
   }
   form.Add_to_spec_dict.Enabled = true;
   form.Add_to_global_dict.Enabled = true;
-  form.operator_category.Text = category;
-  form.add_to_dictionary.BackColor = colour;
+  form.operator_category.Text = std::u32string(CategoryOf(kind));
+  form.add_to_dictionary.BackColor = FoundColour(kind);
 }
 
 void Refuse(Form1& form) {
@@ -41,7 +42,7 @@ void Add(Form1& form, std::u32string_view dictionary) {
   CarryOn([&] { form.Parse_listbox.AddItem(ListForm(entry)); });
   CarryOn([&] { form.TheDisk().AppendLine(EncodePath(dictionary), EncodeLine(FileForm(entry))); });
   ResetDictionaryPanel(form);
-  form.add_to_dictionary.BackColor = RGB(255, 255, 255);
+  form.add_to_dictionary.BackColor = kNoLemmaKind;
   form.RichTextBox1.SetFocus();
 }
 
@@ -69,9 +70,9 @@ void add_to_dictionary_GotFocus(Form1& form) { form.add_to_dictionary.Text = U" 
 
 void Text2_GotFocus(Form1& form) { form.Text2.Text = U" "; }
 
-void A_type_add_Click(Form1& form) { ChooseKind(form, U"A", RGB(128, 128, 255)); }
+void A_type_add_Click(Form1& form) { ChooseKind(form, OperatorKind::kA); }
 
-void B_type_add_Click(Form1& form) { ChooseKind(form, U"B", RGB(255, 0, 0)); }
+void B_type_add_Click(Form1& form) { ChooseKind(form, OperatorKind::kB); }
 
 void Add_to_global_dict_Click(Form1& form) { AddUnlessRefused(form, kGlobalDictionary); }
 

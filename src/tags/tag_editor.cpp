@@ -9,10 +9,6 @@
 namespace quill {
 namespace {
 
-// Rows of ModeCombo.
-constexpr int kAbsolute = 1;
-constexpr int kRelative = 2;
-
 // Rows are replaced or added, never taken away: the fifth row of the relative types stays behind
 // the four absolute ones.
 void WriteRows(ComboBox& combo, std::initializer_list<std::u32string_view> rows) {
@@ -45,9 +41,9 @@ void ApplyTagEditorRules(Form1& form) {
   form.ClassCombo.Enabled = form.StartPosition.Text != U"Start";
   // The list's first row is "Class" and a tab: picking it counts as a class chosen.
   form.OperatorCombo.Enabled = form.ClassCombo.Text != U"Class";
-  form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(0);
+  form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(kPlaceholderRow);
   form.TypeCombo.Enabled = form.ModeCombo.Text != U"Mode";
-  form.RefFrame.Visible = form.ModeCombo.Text == form.ModeCombo.List(kRelative);
+  form.RefFrame.Visible = form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kRelative);
   if (form.TypeCombo.Text == U"Type") {
     form.GranCombo.Enabled = false;
     form.ValBox.Enabled = false;
@@ -57,7 +53,8 @@ void ApplyTagEditorRules(Form1& form) {
     form.RefTag.Enabled = !(form.RefFrame.Visible && form.GranCombo.Text == U"Granularity");
     form.Generate_Tag.Enabled = form.RefFrame.Visible && form.RefBox.Text != U"Reference Tag";
   }
-  if (form.ModeCombo.Text == form.ModeCombo.List(kAbsolute) && form.ValBox.Text != U"Value ?") {
+  if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kAbsolute) &&
+      form.ValBox.Text != U"Value ?") {
     form.Generate_Tag.Enabled = true;
   }
 }
@@ -67,16 +64,16 @@ void ClassCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
 void OperatorCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
 
 void ModeCombo_Click(Form1& form) {
-  if (form.ModeCombo.Text == form.ModeCombo.List(kAbsolute)) {
+  if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kAbsolute)) {
     form.RefFrame.Visible = false;
     WriteRows(form.TypeCombo, {U"Type", U"at", U"start", U"finishes"});
   }
-  if (form.ModeCombo.Text == form.ModeCombo.List(kRelative)) {
+  if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kRelative)) {
     form.RefFrame.Visible = true;
     WriteRows(form.TypeCombo, {U"Type", U"before", U"after", U"while", U"same"});
   }
   // Before the first pick of a mode the list is empty, and so is its first row.
-  form.TypeCombo.Text = form.TypeCombo.ListCount() > 0 ? form.TypeCombo.List(0) : U"";
+  form.TypeCombo.Text = form.TypeCombo.ListCount() > 0 ? form.TypeCombo.List(kPlaceholderRow) : U"";
   ApplyTagEditorRules(form);
 }
 

@@ -3,15 +3,13 @@
 #include "tags/tag_list_file.h"
 #include "tags/tag_record.h"
 #include "tags/underlines.h"
+#include "text/marks.h"
 #include "text/numbers.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
 namespace quill {
 namespace {
-
-// How far above the baseline a tagged term stands, in twips.
-constexpr Twips kRaised = 25;
 
 // The tag that stands in the tag editor, whatever its mode: views of its controls.
 TagFields EditorFields(const Form1& form) {
@@ -27,12 +25,13 @@ TagFields EditorFields(const Form1& form) {
 // Magenta warns of a tag that is not filled in. Three of the five texts are no placeholders of the
 // present form: a tag that shows "Operator", "Mode" or "Value ?" draws no warning.
 void ColourTaggedString(Form1& form) {
-  if (form.OperatorCombo.Text == U"a_operator") form.TaggedString.ForeColor = RGB(0, 0, 255);
-  if (form.OperatorCombo.Text == U"b_operator") form.TaggedString.ForeColor = RGB(255, 0, 0);
+  if (const auto kind = KindOfTag(form.OperatorCombo.Text.Get())) {
+    form.TaggedString.ForeColor = MarkColour(*kind);
+  }
   if (form.ClassCombo.Text == U"Class" || form.OperatorCombo.Text == U"Function" ||
       form.ModeCombo.Text == U"Order" || form.TypeCombo.Text == U"Type" ||
       form.ValBox.Text == U"Value?") {
-    form.TaggedString.ForeColor = RGB(255, 0, 255);
+    form.TaggedString.ForeColor = kNotFilledIn;
   }
 }
 
@@ -66,10 +65,8 @@ void ApplyTagToText(Form1& form) {
   form.RichTextBox1.SelectSpan(form.WorkState.TagStart.Number(), form.WorkState.TagEnd.Number());
   form.RichTextBox1.SelCharOffset = kRaised;
   form.RichTextBox1.SelBold = false;
-  if (form.OperatorCombo.Text == form.OperatorCombo.List(1)) {
-    form.RichTextBox1.SelColor = RGB(0, 0, 255);
-  } else if (form.OperatorCombo.Text == form.OperatorCombo.List(2)) {
-    form.RichTextBox1.SelColor = RGB(255, 0, 0);
+  if (const auto kind = KindOfTag(form.OperatorCombo.Text.Get())) {
+    form.RichTextBox1.SelColor = MarkColour(*kind);
   }
   CarryOn([&] { form.TagList.AddItem(form.WorkState.GeneratedTag.Text()); });
   CarryOn([&] { EnsureTagListFile(form); });

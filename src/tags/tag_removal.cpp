@@ -7,6 +7,7 @@
 #include "tags/tag_list_file.h"
 #include "tags/tag_record.h"
 #include "tags/tag_selection.h"
+#include "text/marks.h"
 #include "workbench/failure.h"
 #include "workbench/form1.h"
 
@@ -24,15 +25,15 @@ std::optional<int> FindTagOf(const ListBox& list, std::u32string_view term) {
 void ShowOtherTag(Form1& form, int index) {
   form.TagList.ListIndex = index;
   TagList_Click(form);
-  form.RichTextBox1.SelColor =
-      form.OperatorCombo.Text == U"a_operator" ? RGB(0, 0, 255) : RGB(255, 0, 0);
+  const std::optional<OperatorKind> kind = KindOfTag(form.OperatorCombo.Text.Get());
+  form.RichTextBox1.SelColor = MarkColour(kind.value_or(OperatorKind::kB));
 }
 
 void MakePlain(TextSurface& text, Range span) {
   text.SelStart = span.begin;
   text.SelLength = span.Length();
   text.SelCharOffset = 0;
-  text.SelColor = RGB(0, 0, 0);
+  text.SelColor = kPlain;
   text.SelBold = false;
 }
 

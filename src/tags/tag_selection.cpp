@@ -2,6 +2,7 @@
 
 #include "tags/tag_editor.h"
 #include "tags/tag_record.h"
+#include "text/marks.h"
 #include "text/numbers.h"
 #include "workbench/form1.h"
 
@@ -20,7 +21,7 @@ void FillEditor(Form1& form, const std::u32string& line, const TagFields& fields
   form.ClassCombo.Text = std::u32string(fields[TagField::kClass]);
   form.OperatorCombo.Text = std::u32string(fields[TagField::kOperator]);
   form.ModeCombo.Text = std::u32string(fields[TagField::kMode]);
-  form.RefFrame.Visible = fields[TagField::kMode] == U"relative";
+  form.RefFrame.Visible = fields[TagField::kMode] == form.ModeCombo.List(ModeRow::kRelative);
   form.TypeCombo.Text = std::u32string(fields[TagField::kType]);
   form.GranCombo.Text = std::u32string(fields[TagField::kGranularity]);
   form.ValBox.Text = std::u32string(fields[TagField::kValue]);
@@ -46,8 +47,9 @@ void TagList_Click(Form1& form) {
   form.WorkState.CurrentTag = line;
   const TagFields fields = CutTag(line);
   FillEditor(form, line, fields);
-  if (fields[TagField::kOperator] == U"a_operator") form.TaggedString.ForeColor = RGB(0, 0, 255);
-  if (fields[TagField::kOperator] == U"b_operator") form.TaggedString.ForeColor = RGB(255, 0, 0);
+  if (const auto kind = KindOfTag(fields[TagField::kOperator])) {
+    form.TaggedString.ForeColor = MarkColour(*kind);
+  }
   ShowReference(form, fields);
   form.RichTextBox1.SetFocus();
   form.RichTextBox1.SelectSpan(Val(fields[TagField::kStart]), Val(fields[TagField::kEnd]));

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <map>
 
+#include "text/marks.h"
 #include "window/appearance.h"
 #include "window/application.h"
 #include "window/layout.h"
@@ -107,7 +108,7 @@ void MainWindow::BuildMarkLabel() {
   mark_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // The bar puts it higher than its own captions.
   mark_->setContentsMargins(0, 2, 12, 0);
-  const QString longest = MarkName({RGB(128, 128, 255), true, true, 0});
+  const QString longest = MarkName({kFoundA, true, true, 0});
   mark_->setMinimumWidth(mark_->fontMetrics().horizontalAdvance(longest) + 24);
   menuBar()->setCornerWidget(mark_);
 }

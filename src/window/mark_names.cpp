@@ -1,20 +1,17 @@
 #include "window/mark_names.h"
 
+#include "text/marks.h"
+
 namespace quill {
 namespace {
 
-constexpr Colour kKindA = RGB(0, 0, 255);
-constexpr Colour kKindAFoundBySearch = RGB(128, 128, 255);
-constexpr Colour kKindB = RGB(255, 0, 0);
-constexpr Colour kAskedAbout = RGB(192, 0, 192);
-
 QString KindOf(Colour colour) {
   switch (colour) {
-    case kKindA:
+    case kMarkedA:
       return QStringLiteral("Kind A (blue)");
-    case kKindAFoundBySearch:
+    case kFoundA:
       return QStringLiteral("Kind A (light blue), found by the search");
-    case kKindB:
+    case kMarkedB:
       return QStringLiteral("Kind B (red)");
     case kAskedAbout:
       return QStringLiteral("To be confirmed (purple)");

@@ -79,6 +79,12 @@ std::span<const CatalogueRow> Catalogue();
 // The row of a control. An unknown name is a bug and throws std::logic_error.
 const CatalogueRow& RowOf(std::string_view name);
 
+// Rows of the combo boxes, by name. The first row of a list is a placeholder: nothing is chosen.
+inline constexpr int kPlaceholderRow = 0;
+struct ModeRow {
+  enum : int { kAbsolute = 1, kRelative = 2 };
+};
+
 // The rows of a combo box's list at start.
 std::span<const std::u32string_view> ComboRows(std::string_view name);
 

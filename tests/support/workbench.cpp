@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "text/marks.h"
+
 namespace quill::test {
 namespace {
 
@@ -12,8 +14,7 @@ struct Ink {
   char letter;
   Colour colour;
 };
-constexpr Ink kInks[] = {
-    {'.', RGB(0, 0, 0)}, {'a', RGB(0, 0, 255)}, {'b', RGB(255, 0, 0)}, {'l', RGB(128, 128, 255)}};
+constexpr Ink kInks[] = {{'.', kPlain}, {'a', kMarkedA}, {'b', kMarkedB}, {'l', kFoundA}};
 
 Attributes AttributesOf(char drawn) {
   const bool underline = drawn == '_' || std::isupper(static_cast<unsigned char>(drawn)) != 0;

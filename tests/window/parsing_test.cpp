@@ -7,6 +7,7 @@
 
 #include "hands/dialog_hands.h"
 #include "shown_window.h"
+#include "text/marks.h"
 #include "user.h"
 #include "window/window_dialogs.h"
 
@@ -72,13 +73,13 @@ TEST_F(ParsingTest, TheMarksOfTheWholeListAreShown) {
   OpenStory(120);
   Press("Parse_1");
   EXPECT_EQ(form.Parse_listbox.ListIndex, 3);
-  EXPECT_EQ(At(0).colour, RGB(128, 128, 255));
-  EXPECT_EQ(At(5).colour, RGB(128, 128, 255)) << "of \"not\", which comes after \"no\"";
+  EXPECT_EQ(At(0).colour, kFoundA);
+  EXPECT_EQ(At(5).colour, kFoundA) << "of \"not\", which comes after \"no\"";
   ExpectShown(window, form);
   ClickRow("Parse_listbox", 1);
   Press("Parse_2");
-  EXPECT_EQ(At(6).colour, RGB(255, 0, 0));
-  EXPECT_EQ(At(7).colour, RGB(128, 128, 255));
+  EXPECT_EQ(At(6).colour, kMarkedB);
+  EXPECT_EQ(At(7).colour, kFoundA);
   ExpectShown(window, form);
 }
 
@@ -95,7 +96,7 @@ TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
   ClickRow("Parse_listbox", 0);
   Press("Parse_3");
   EXPECT_EQ(asked, 2U);
-  EXPECT_EQ(At(0), (Attributes{RGB(0, 0, 255), true, false, 0}));
+  EXPECT_EQ(At(0), (Attributes{kMarkedA, true, false, 0}));
   EXPECT_EQ(At(5 + 8 * 120), Attributes());
   ExpectShown(window, form);
 }

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include "shown_window.h"
+#include "text/marks.h"
 #include "user.h"
 
 namespace quill::test {
@@ -57,7 +58,7 @@ TEST_F(PicturesTest, StayDrawnWhereTheTextIsMarkedAndEdited) {
   OpenText("one {\\pict\\pngblip\\picwgoal1500\\pichgoal750 " + GreenData("PNG") + "} two");
   DragOver(0, 9);
   Press("DefAMarker");
-  EXPECT_EQ(form.RichTextBox1.Doc().At(4).colour, RGB(0, 0, 255));
+  EXPECT_EQ(form.RichTextBox1.Doc().At(4).colour, kMarkedA);
   EXPECT_NEAR(Area(kGreen).width(), 100, 1);
   Press("RichTextBox1");
   Key(Qt::Key_Home, Qt::ControlModifier);

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include "shown_window.h"
+#include "text/marks.h"
 #include "user.h"
 #include "window/shown.h"
 
@@ -77,7 +78,7 @@ TEST_F(TextTest, PositionsBehindWideCharacters) {
   Key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(form.RichTextBox1.SelText(), U"yesterday");
   Press("DefAMarker");
-  EXPECT_EQ(form.RichTextBox1.Doc().At(5).colour, RGB(0, 0, 255));
+  EXPECT_EQ(form.RichTextBox1.Doc().At(5).colour, kMarkedA);
   EXPECT_EQ(form.RichTextBox1.Doc().At(4).colour, 0U);
   ExpectShown(window, form);
 }

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "text/marks.h"
 #include "text/unicode.h"
 
 namespace quill {
@@ -108,22 +109,22 @@ void Restore(Document& document, Range range, const std::vector<Attributes>& att
 
 void Mark(Document& document, Range range, Position seed) {
   static const AttributeChange kLooks[] = {
-      {.colour = RGB(0, 0, 255)},
-      {.colour = RGB(255, 0, 0), .bold = true},
-      {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
+      {.colour = kMarkedA},
+      {.colour = kMarkedB, .bold = true},
+      {.colour = kMarkedA, .bold = false, .offset = kRaised},
       {.underline = true},
-      {.colour = RGB(0, 0, 0), .bold = false},
-      {.colour = RGB(192, 0, 192), .bold = true, .underline = true},
-      {.colour = RGB(0, 0, 0), .bold = false, .underline = false, .offset = 0}};
+      {.colour = kPlain, .bold = false},
+      {.colour = kAskedAbout, .bold = true, .underline = true},
+      {.colour = kPlain, .bold = false, .underline = false, .offset = 0}};
   document.Apply(range, kLooks[static_cast<std::size_t>(seed) % std::size(kLooks)]);
 }
 
 std::vector<Range> MarkWords(Document& document, std::size_t every) {
-  static const AttributeChange kLooks[] = {{.colour = RGB(0, 0, 255), .bold = true},
-                                           {.colour = RGB(255, 0, 0)},
+  static const AttributeChange kLooks[] = {{.colour = kMarkedA, .bold = true},
+                                           {.colour = kMarkedB},
                                            {.underline = true},
-                                           {.colour = RGB(0, 0, 255), .bold = false, .offset = 25},
-                                           {.colour = RGB(128, 128, 255), .bold = true}};
+                                           {.colour = kMarkedA, .bold = false, .offset = kRaised},
+                                           {.colour = kFoundA, .bold = true}};
   std::vector<Range> marks;
   const std::u32string& text = document.Text();
   std::size_t words = 0;

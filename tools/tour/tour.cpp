@@ -3,6 +3,7 @@
 #include <QTest>
 #include <string_view>
 
+#include "text/marks.h"
 #include "window/shown.h"
 #include "workbench/form1.h"
 
@@ -195,8 +196,8 @@ void Tour::Save() {
 // --- What came of it -------------------------------------------------------------------------
 
 void Tour::Check() const {
-  const Attributes blue{RGB(0, 0, 255), false, false, 0};
-  const Attributes red{RGB(255, 0, 0), false, false, 0};
+  const Attributes blue{kMarkedA, false, false, 0};
+  const Attributes red{kMarkedB, false, false, 0};
   const struct {
     const char* term;
     Attributes expected;

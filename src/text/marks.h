@@ -1,0 +1,58 @@
+// What the colours of a text mean, and the two kinds of temporal operator.
+//
+// A mark is the colour of its characters, together with their weight and raised position; no other
+// record of it exists. So a colour is compared exactly, and one that is not listed here is no mark.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "text/format.h"
+
+namespace quill {
+
+// Operators of kind A steer how a reader builds up past, present and future; those of kind B order
+// events before and after each other.
+enum class OperatorKind { kA, kB };
+
+inline constexpr Colour kPlain = RGB(0, 0, 0);
+inline constexpr Colour kMarkedA = RGB(0, 0, 255);
+// By automatic parsing. The walk from mark to mark passes over it.
+inline constexpr Colour kFoundA = RGB(128, 128, 255);
+// Marked and found alike.
+inline constexpr Colour kMarkedB = RGB(255, 0, 0);
+// A hit, while the user is asked whether to mark it.
+inline constexpr Colour kAskedAbout = RGB(192, 0, 192);
+// The line of a tag that is not filled in; never in the text.
+inline constexpr Colour kNotFilledIn = RGB(255, 0, 255);
+// Behind a lemma that has no kind; one that has is on FoundColour.
+inline constexpr Colour kNoLemmaKind = RGB(255, 255, 255);
+
+// How far above the baseline a tagged term stands.
+inline constexpr Twips kRaised = 25;
+
+constexpr Colour MarkColour(OperatorKind kind) {
+  return kind == OperatorKind::kA ? kMarkedA : kMarkedB;
+}
+constexpr Colour FoundColour(OperatorKind kind) {
+  return kind == OperatorKind::kA ? kFoundA : kMarkedB;
+}
+
+// The category of a dictionary entry.
+constexpr std::u32string_view CategoryOf(OperatorKind kind) {
+  return kind == OperatorKind::kA ? U"A" : U"B";
+}
+constexpr std::optional<OperatorKind> KindOfCategory(std::u32string_view category) {
+  if (category == U"A") return OperatorKind::kA;
+  if (category == U"B") return OperatorKind::kB;
+  return std::nullopt;
+}
+
+// The operator field of a tag.
+constexpr std::optional<OperatorKind> KindOfTag(std::u32string_view operatorField) {
+  if (operatorField == U"a_operator") return OperatorKind::kA;
+  if (operatorField == U"b_operator") return OperatorKind::kB;
+  return std::nullopt;
+}
+
+}  // namespace quill
