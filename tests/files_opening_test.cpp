@@ -26,9 +26,9 @@ struct FilesBench : Workbench {
   std::string State() const {
     const WorkState& work = form.WorkState;
     std::string state = ToUtf8(form.Caption.Get());
-    state += "; base " + ToUtf8(work.TextBaseFile.Text());
-    state += "; tags " + ToUtf8(work.TagListFile.Text());
-    state += "; dictionary " + ToUtf8(work.SpecificDictFile.Text());
+    state += "; base " + ToUtf8(work.TextBaseFile.Get());
+    state += "; tags " + ToUtf8(work.TagListFile.Get());
+    state += "; dictionary " + ToUtf8(work.SpecificDictFile.Get());
     state += form.PreFrame.Visible ? "; PreFrame" : "";
     state += form.Frame5.Enabled ? " Frame5" : "";
     state += form.mnuProcess.Enabled ? " mnuProcess" : "";
@@ -58,7 +58,7 @@ TEST_F(Files, OpensAWorkingCopy) {
   EXPECT_FALSE(form.ClassCombo.Enabled);
   EXPECT_FALSE(form.Infoframe.Visible);
   EXPECT_FALSE(form.mnuDialogue_on.Enabled);
-  EXPECT_EQ(form.WorkState.TagEnd.Number(), 12);
+  EXPECT_EQ(form.WorkState.TagEnd.Get(), 12);
 }
 
 TEST_F(Files, ShowsTheDialogsAsTheyAreWorded) {

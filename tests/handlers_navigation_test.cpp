@@ -26,9 +26,9 @@ struct PlainWalk {
     text.SelLength = text.Length();
     text.SelUnderline = false;
     text.SelStart = 0;
-    double scan = form.WorkState.TagEnd.Number() + 1;
+    double scan = form.WorkState.TagEnd.Get() + 1;
     const auto length = static_cast<double>(text.Length());
-    form.WorkState.TextLen = length;
+    form.WorkState.TextLen = text.Length();
     if (Scan(scan, length, true)) FindEnd(length);
   }
 
@@ -47,12 +47,12 @@ struct PlainWalk {
     TextSurface& text = form.RichTextBox1;
     const Position start = text.SelStart + 1;
     form.StartPosition.Text = DecimalText(static_cast<double>(start));
-    form.WorkState.TagStart = start;
+    form.WorkState.TagStart = static_cast<double>(start);
     text.SelStart = start + 1;
     if (!Scan(static_cast<double>(start) + 1, length, false)) return;
     const Position end = text.SelStart;
     form.EndPosition.Text = DecimalText(static_cast<double>(end));
-    form.WorkState.TagEnd = end;
+    form.WorkState.TagEnd = static_cast<double>(end);
     text.SelStart = start - 1;
     text.SelLength = end - (start - 1);
     form.marked_term.Text = text.SelText();
@@ -68,16 +68,14 @@ std::string Outcome(const Form1& form) {
   const Range selection = form.RichTextBox1.Selection();
   add("selection", DecimalText(static_cast<double>(selection.begin)) + U"+" +
                        DecimalText(static_cast<double>(selection.Length())));
-  form.WorkState.ForEach([&](const char* name, const WorkValue& value) {
-    add(name, value.IsString() ? U"'" + value.Text() + U"'" : value.Text());
-  });
+  outcome += " " + Fields(form.WorkState);
   add("Start", form.StartPosition.Text);
   add("End", form.EndPosition.Text);
   add("term", form.marked_term.Text);
   return outcome;
 }
 
-WorkValue RandomTagEnd(std::mt19937& random, int length) {
+WorkState::Number RandomTagEnd(std::mt19937& random, int length) {
   const int number = static_cast<int>(random() % static_cast<unsigned>(length + 8)) - 4;
   switch (random() % 8) {
     case 0:
@@ -87,7 +85,7 @@ WorkValue RandomTagEnd(std::mt19937& random, int length) {
     case 2:
       return number + 0.5;
     default:
-      return number;
+      return static_cast<double>(number);
   }
 }
 
@@ -104,7 +102,7 @@ TEST(Navigation, DoesWhatThePlainLoopDoes) {
       drawing += inks[random() % inks.size()];
       characters += U'p' + static_cast<char32_t>(i);
     }
-    const WorkValue tagEnd = RandomTagEnd(random, static_cast<int>(length));
+    const WorkState::Number tagEnd = RandomTagEnd(random, static_cast<int>(length));
     for (Workbench* bench : {&fast, &plain}) {
       bench->ShowText(characters, drawing);
       bench->form.WorkState = {};
@@ -115,7 +113,7 @@ TEST(Navigation, DoesWhatThePlainLoopDoes) {
       fast.program.Click(kindA ? fast.form.FindAMarker : fast.form.FindBMarker);
       PlainWalk{plain.form, kindA ? kMarkedA : kMarkedB}.Find();
       ASSERT_EQ(Outcome(fast.form), Outcome(plain.form))
-          << drawing << " from " << ToUtf8(tagEnd.Text()) << ", step " << step;
+          << drawing << " from " << ToUtf8(TextOf(tagEnd)) << ", step " << step;
     }
   }
 }

@@ -53,7 +53,7 @@ TEST_F(ParsingList, ADictionaryThatCannotBeReadIsTold) {
   EXPECT_EQ(Items(), U"a;b;");
   EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
   // The deselection was an event: the searches would find nothing.
-  EXPECT_EQ(form.WorkState.ParseIndex.Number(), -1);
+  EXPECT_EQ(form.WorkState.ParseIndex.Get(), -1);
   EXPECT_TRUE(form.User_Dialogue.Text ==
               U"There is no global dictionary yet: it is made when the "
               U"first term is added to it.");

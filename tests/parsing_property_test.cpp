@@ -33,7 +33,7 @@ std::size_t InStr(std::size_t from, const Chars& text, const Chars& term) {
 
 void PlainDecompose(Form1& form) {
   WorkState& state = form.WorkState;
-  const Chars line = form.Parse_listbox.List(static_cast<int>(state.ParseIndex.Number()));
+  const Chars line = form.Parse_listbox.List(state.ParseIndex);
   state.ParseLine = line;
   std::size_t first = 0;
   for (std::size_t i = line.size(); i > 0; --i) {
@@ -53,19 +53,18 @@ void PlainScan(Form1& form, const std::function<void(TextSurface&, const Chars&)
   PlainDecompose(form);
   state.ParsePos = 1;
   state.TextLen = text.Length();
-  while (state.ParsePos.Number() < state.TextLen.Number()) {
-    const Chars term = state.ParseTerm.Text();
+  while (state.ParsePos < state.TextLen) {
+    const Chars term = state.ParseTerm.Get();
     const std::size_t found =
-        term.empty() ? 0
-                     : InStr(static_cast<std::size_t>(state.ParsePos.Number()), text.Text(), term);
+        term.empty() ? 0 : InStr(static_cast<std::size_t>(state.ParsePos), text.Text(), term);
     state.TagStart = static_cast<double>(found);
     if (found == 0) break;
     text.SelStart = static_cast<Position>(found) - 1;
     text.SelLength = static_cast<Position>(term.size());
-    mark(text, state.ParseCategory.Text());
+    mark(text, state.ParseCategory.Get());
     text.SelLength = 0;
-    state.ParsePos = state.TagStart + static_cast<double>(term.size());
-    text.SelStart = static_cast<Position>(state.ParsePos.Number());
+    state.ParsePos = static_cast<Position>(found + term.size());
+    text.SelStart = state.ParsePos.Get();
   }
 }
 
@@ -87,7 +86,7 @@ void PlainParse1(Form1& form) {
   form.Parse_listbox.ListIndex = 0;
   while (form.Parse_listbox.ListIndex < form.Parse_listbox.ListCount() - 1) {
     PlainScan(form, PlainMark);
-    const int next = static_cast<int>(form.WorkState.ParseIndex.Number()) + 1;
+    const int next = form.WorkState.ParseIndex + 1;
     if (next < form.Parse_listbox.ListCount()) {
       form.WorkState.ParseIndex = next;
       form.Parse_listbox.ListIndex = next;
@@ -187,14 +186,7 @@ void ExpectSame(const Form1& fast, const Form1& plain) {
   EXPECT_EQ(text.Selection(), plain.RichTextBox1.Selection());
   EXPECT_EQ(text.TypingAttributes(), plain.RichTextBox1.TypingAttributes());
   EXPECT_EQ(fast.Parse_listbox.ListIndex.Get(), plain.Parse_listbox.ListIndex.Get());
-  std::vector<Chars> fields;
-  plain.WorkState.ForEach([&](const char*, const WorkValue& value) {
-    fields.push_back(value.IsEmpty() ? Chars(U"(empty)") : value.Text());
-  });
-  std::size_t next = 0;
-  fast.WorkState.ForEach([&](const char* name, const WorkValue& value) {
-    EXPECT_TRUE((value.IsEmpty() ? Chars(U"(empty)") : value.Text()) == fields[next++]) << name;
-  });
+  EXPECT_EQ(Fields(fast.WorkState), Fields(plain.WorkState));
 }
 
 // The watcher heard of every character that looks different.

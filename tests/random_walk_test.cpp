@@ -191,7 +191,7 @@ class Walk {
     EXPECT_EQ(DecodeLines(after.files.at(tags)), after.tags);
   }
 
-  std::string TagFile() const { return ToUtf8(form_.WorkState.TagListFile.Text()); }
+  std::string TagFile() const { return ToUtf8(form_.WorkState.TagListFile.Get()); }
 
   // The tags without the selected one, which the user gives up.
   std::vector<std::u32string> GiveUp(const Look& before, const std::string& file) {
@@ -209,7 +209,7 @@ class Walk {
   void ExpectAppended(const Look& before, const Look& after, Seen& seen) {
     ++seen.tags;
     if (before.selected != -1) ++seen.edits;
-    const std::u32string tag = form_.WorkState.GeneratedTag.Text();
+    const std::u32string tag = form_.WorkState.GeneratedTag.Get();
     std::vector<std::u32string> tags = GiveUp(before, formerTagFile_);
     tags.push_back(tag);
     EXPECT_EQ(tags, after.tags);

@@ -159,7 +159,7 @@ TEST_F(TagFlows, TheCheckFindsTheFirstLineAtTheCaret) {
     program.Select(row.caret, 2);
     const Range before = text.Selection();
     program.Click(form.TagChecker);
-    EXPECT_EQ(form.WorkState.CaretPos.Number(), static_cast<double>(before.begin));
+    EXPECT_EQ(form.WorkState.CaretPos.Get(), before.begin);
     EXPECT_EQ(form.TagList.ListIndex, row.found);
     if (row.found >= 0) {
       EXPECT_TRUE(form.TaggedString.Text == form.TagList.List(row.found));

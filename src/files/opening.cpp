@@ -12,7 +12,6 @@ namespace {
 
 void ShowOpenDialog(Form1& form) {
   form.CommonDialog1.DialogTitle = U"Load existing *.tbf-file or new *.rtf-file for tagging";
-  form.CommonDialog1.CancelError = false;
   form.CommonDialog1.Filter =
       U" tbf-files(*.tbf)| *.tbf| rtf-files (*.rtf)| *.rtf| All files (*.*)|*.*";
   form.CommonDialog1.ShowOpen();
@@ -20,8 +19,8 @@ void ShowOpenDialog(Form1& form) {
 
 // Makes the file if it is missing.
 void OpenSpecificDict(Form1& form) {
-  form.WorkState.SpecificDictFile = DictionaryOf(form.WorkState.TextBaseFile.Text());
-  form.TheDisk().CreateIfMissing(EncodePath(form.WorkState.SpecificDictFile.Text()));
+  form.WorkState.SpecificDictFile = DictionaryOf(form.WorkState.TextBaseFile);
+  form.TheDisk().CreateIfMissing(EncodePath(form.WorkState.SpecificDictFile.Get()));
 }
 
 // The new text becomes the working copy's text; its tag list and dictionary stay as they are.
@@ -29,16 +28,15 @@ void MakeWorkingCopy(Form1& form) {
   form.User_Dialogue.Text =
       U"Please save a *.tbf working copy before you start working with this file.";
   form.CommonDialog1.DialogTitle = U"Create and save a *.tbf working copy of the input file";
-  form.CommonDialog1.CancelError = false;
-  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile.Text());
+  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile);
   form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
   form.CommonDialog1.ShowSave();
   if (form.CommonDialog1.FileName.empty()) return;
   form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
   EnsureTagListFile(form);
-  form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text());
-  form.Caption = U"Quillorandix v1.07 ----- saved files " + form.WorkState.TextBaseFile.Text() +
-                 U" + " + form.WorkState.TagListFile.Text();
+  form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile);
+  form.Caption = U"Quillorandix v1.07 ----- saved files " + form.WorkState.TextBaseFile.Get() +
+                 U" + " + form.WorkState.TagListFile.Get();
   form.mnuProcess.Enabled = true;
 }
 
@@ -52,15 +50,15 @@ void Open(Form1& form) {
   if (form.CommonDialog1.FileName.size() < 4) return;
   form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
   form.PreFrame.Visible = true;
-  form.RichTextBox1.LoadFile(form.WorkState.TextBaseFile.Text());
+  form.RichTextBox1.LoadFile(form.WorkState.TextBaseFile);
   form.BMarkedString.Text = U"";
   form.AMarkedString.Text = U"";
   form.TaggedString.Text = U"";
   LoadTagList(form);
   OpenSpecificDict(form);
   form.Frame5.Enabled = true;
-  form.Caption = U"Quillorandix v 1.07 processing " + form.WorkState.TextBaseFile.Text();
-  if (IsWorkingCopy(form.WorkState.TextBaseFile.Text())) {
+  form.Caption = U"Quillorandix v 1.07 processing " + form.WorkState.TextBaseFile.Get();
+  if (IsWorkingCopy(form.WorkState.TextBaseFile)) {
     form.mnuProcess.Enabled = true;
     return;
   }

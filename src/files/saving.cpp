@@ -11,21 +11,20 @@ namespace {
 // FileName is empty afterwards where the user cancelled.
 void ShowSaveDialog(Form1& form) {
   form.CommonDialog1.DialogTitle = U"Save your tagged *.tbf-file";
-  form.CommonDialog1.CancelError = false;
-  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile.Text());
+  form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile);
   form.CommonDialog1.Filter = U"Tagged TextBaseFiles(*.tbf)|*.tbf";
   form.CommonDialog1.ShowSave();
 }
 
 void ShowSaved(Form1& form) {
-  form.Caption = U"Quillorandix v1.05 ----- saved files " + form.WorkState.TextBaseFile.Text() +
-                 U" + " + form.WorkState.TagListFile.Text();
+  form.Caption = U"Quillorandix v1.05 ----- saved files " + form.WorkState.TextBaseFile.Get() +
+                 U" + " + form.WorkState.TagListFile.Get();
   form.mnuProcess.Enabled = true;
 }
 
 void SaveOnLeaving(Form1& form) {
   CarryOn([&] { EnsureTagListFile(form); });
-  CarryOn([&] { form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text()); });
+  CarryOn([&] { form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile); });
   ShowSaved(form);
 }
 
@@ -38,9 +37,9 @@ void mnuFileSave_Click(Form1& form) {
   form.WorkState.TextBaseFile = form.CommonDialog1.FileName;
   try {
     EnsureTagListFile(form);
-    form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile.Text());
+    form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile);
   } catch (const StatementFailed&) {
-    form.MsgBox(U"The text could not be saved to " + form.WorkState.TextBaseFile.Text() + U".", 16,
+    form.MsgBox(U"The text could not be saved to " + form.WorkState.TextBaseFile.Get() + U".", 16,
                 U"Save failed");
     return;
   }

@@ -47,7 +47,7 @@ void Define(Form1& form, const Marker& marker) {
     form.WorkState.MarkedTerm = form.RichTextBox1.SelText();
     marker.box.SetFocus();
     marker.box.Text = U"";
-    form.SendKeys(form.WorkState.MarkedTerm.Text());
+    form.SendKeys(form.WorkState.MarkedTerm.Get());
     marker.box.FontBold = true;
   }
   marker.reject.Enabled = true;

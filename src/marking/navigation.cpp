@@ -19,8 +19,8 @@ namespace {
 template <class Find>
 bool ScanTo(Form1& form, Find find) {
   TextSurface& text = form.RichTextBox1;
-  const double scan = form.WorkState.ScanPos.Number();
-  if (!(scan < form.WorkState.TextLen.Number())) return false;
+  const double scan = form.WorkState.ScanPos;
+  if (!(scan < static_cast<double>(form.WorkState.TextLen))) return false;
   const Position found = find(static_cast<Position>(std::max(scan, 0.0)));
   // TagEnd may come from what a user typed into EndPosition: steps of one keep its fraction.
   const double fraction = std::isfinite(scan) ? scan - std::floor(scan) : 0;
@@ -35,8 +35,8 @@ bool FindStart(Form1& form, Colour colour) {
   if (!ScanTo(form, [&](Position from) { return text.FindColour(from, colour); })) return false;
   const Position start = text.SelStart + 1;
   form.StartPosition.Text = DecimalText(static_cast<double>(start));
-  form.WorkState.TagStart = start;
-  form.WorkState.ScanPos = start + 1;
+  form.WorkState.TagStart = static_cast<double>(start);
+  form.WorkState.ScanPos = static_cast<double>(start + 1);
   text.SelStart = start + 1;
   return true;
 }
@@ -48,13 +48,13 @@ bool FindEnd(Form1& form, Colour colour) {
   }
   const Position end = text.SelStart;
   form.EndPosition.Text = DecimalText(static_cast<double>(end));
-  form.WorkState.TagEnd = end;
+  form.WorkState.TagEnd = static_cast<double>(end);
   return true;
 }
 
 void ShowRun(Form1& form) {
   TextSurface& text = form.RichTextBox1;
-  text.SelectSpan(form.WorkState.TagStart.Number(), form.WorkState.TagEnd.Number());
+  text.SelectSpan(form.WorkState.TagStart, form.WorkState.TagEnd);
   form.marked_term.Text = text.SelText();
   text.SelUnderline = true;
   text.SetFocus();
@@ -84,7 +84,7 @@ void FindNextMarker(Form1& form) {
   ClearUnderlines(form);
   form.WorkState.ScanPos = form.WorkState.TagEnd + 1;
   form.WorkState.TextLen = form.RichTextBox1.Length();
-  const auto colour = static_cast<Colour>(form.WorkState.MarkerColor.Number());
+  const Colour colour = form.WorkState.MarkerColor;
   if (FindStart(form, colour) && FindEnd(form, colour)) ShowRun(form);
   ApplyTagEditorRules(form);
 }

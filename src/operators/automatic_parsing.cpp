@@ -27,9 +27,9 @@ class ScanList {
   // For the item that the record of working state holds.
   void Add(const WorkState& state) {
     const auto [entry, isNew] =
-        numbers_.try_emplace(FoldCase(state.ParseTerm.Text()), terms_.size());
+        numbers_.try_emplace(FoldCase(state.ParseTerm.Get()), terms_.size());
     if (isNew) terms_.push_back(entry->first);
-    scans_.push_back({entry->second, KindOfCategory(state.ParseCategory.Text())});
+    scans_.push_back({entry->second, KindOfCategory(state.ParseCategory.Get())});
   }
   const std::vector<Scan>& Scans() const { return scans_; }
   const std::vector<std::u32string>& Terms() const { return terms_; }
@@ -44,8 +44,6 @@ using HitsByTerm = std::vector<std::vector<Range>>;
 
 HitsByTerm FindHits(const std::vector<std::u32string>& terms, const std::u32string& text) {
   HitsByTerm hits(terms.size());
-  // A search is not begun where the text has no more than one character.
-  if (text.size() < 2) return hits;
   for (const TermHit& hit : TermSearch(terms).Hits(text)) {
     const auto length = static_cast<Position>(terms[hit.term].size());
     hits[hit.term].push_back({hit.begin, hit.begin + length});
@@ -93,15 +91,14 @@ void EndScans(Form1& form, const std::vector<Scan>& scans, const HitsByTerm& hit
   // the one that follows the hit.
   if (moved != scans.rend()) form.RichTextBox1.SelStart = hits[moved->term].back().end + 1;
 
-  const double textLen = form.WorkState.TextLen.Number();
   for (const Scan& scan : scans) {
     const std::vector<Range>& found = hits[scan.term];
     const Position parsePos = found.empty() ? 1 : found.back().end + 1;
     form.WorkState.ParsePos = parsePos;
-    if (static_cast<double>(parsePos) < textLen) {
+    if (parsePos < form.WorkState.TextLen) {
       form.WorkState.TagStart = 0;
     } else if (!found.empty()) {
-      form.WorkState.TagStart = found.back().begin + 1;
+      form.WorkState.TagStart = static_cast<double>(found.back().begin + 1);
     }
   }
 }
@@ -138,10 +135,10 @@ void Parse_2_Click(Form1& form) {
 }
 
 void SelectNextParseItem(Form1& form) {
-  const double last = form.Parse_listbox.ListCount() - 1;
-  if (last < 0 || form.WorkState.ParseIndex.Number() == last) return;
+  const int last = form.Parse_listbox.ListCount() - 1;
+  if (last < 0 || form.WorkState.ParseIndex == last) return;
   form.WorkState.ParseIndex = form.WorkState.ParseIndex + 1;
-  form.Parse_listbox.ListIndex = static_cast<int>(form.WorkState.ParseIndex.Number());
+  form.Parse_listbox.ListIndex = form.WorkState.ParseIndex.Get();
 }
 
 }  // namespace quill

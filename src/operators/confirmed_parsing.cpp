@@ -23,7 +23,7 @@ bool Confirmed(Form1& form) {
 void Mark(Form1& form) {
   TextSurface& text = form.RichTextBox1;
   text.SelUnderline = false;
-  if (const auto kind = KindOfCategory(form.WorkState.ParseCategory.Text())) {
+  if (const auto kind = KindOfCategory(form.WorkState.ParseCategory.Get())) {
     text.SelColor = MarkColour(*kind);
     text.SelBold = true;
   }
@@ -40,12 +40,12 @@ void MakePlain(TextSurface& text) {
 // ParsePos counts from 1, as TagStart does; the text's positions count from 0.
 void ScanForTerm(Form1& form) {
   TextSurface& text = form.RichTextBox1;
-  const std::u32string term = FoldCase(form.WorkState.ParseTerm.Text());
+  const std::u32string term = FoldCase(form.WorkState.ParseTerm.Get());
   const auto length = static_cast<Position>(term.size());
   const TermSearch search({term});
   for (Position parsePos = 1; parsePos < text.Length();) {
     const Position hit = search.Next(text.Text(), parsePos - 1);
-    form.WorkState.TagStart = hit == TermSearch::kNone ? 0 : hit + 1;
+    form.WorkState.TagStart = hit == TermSearch::kNone ? 0 : static_cast<double>(hit + 1);
     if (hit == TermSearch::kNone) return;
     text.SelStart = hit;
     text.SelLength = length;

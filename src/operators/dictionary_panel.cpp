@@ -77,7 +77,7 @@ void B_type_add_Click(Form1& form) { ChooseKind(form, OperatorKind::kB); }
 void Add_to_global_dict_Click(Form1& form) { AddUnlessRefused(form, kGlobalDictionary); }
 
 void Add_to_spec_dict_Click(Form1& form) {
-  AddUnlessRefused(form, form.WorkState.SpecificDictFile.Text());
+  AddUnlessRefused(form, form.WorkState.SpecificDictFile.Get());
 }
 
 void ResetDictionaryPanel(Form1& form) {

@@ -24,11 +24,8 @@ bool HasSelectedItem(Form1& form) {
 }
 
 void TakeItem(Form1& form) {
-  CarryOn([&] {
-    const int index = static_cast<int>(form.WorkState.ParseIndex.Number());
-    form.WorkState.ParseLine = form.Parse_listbox.List(index);
-  });
-  const std::u32string line = form.WorkState.ParseLine.Text();
+  CarryOn([&] { form.WorkState.ParseLine = form.Parse_listbox.List(form.WorkState.ParseIndex); });
+  const std::u32string& line = form.WorkState.ParseLine.Get();
   const ItemParts parts = CutItem(line);
   if (parts.Lemma) form.WorkState.ParseTerm = std::u32string(*parts.Lemma);
   form.WorkState.ParseCategory = std::u32string(parts.Category);

@@ -38,7 +38,7 @@ void Add_global_parsing_list_Click(Form1& form) {
 }
 
 void Add_specific_parsing_list_Click(Form1& form) {
-  ReadInto(form, form.WorkState.SpecificDictFile.Text(),
+  ReadInto(form, form.WorkState.SpecificDictFile.Get(),
            {.read = U"The temporal operators unique to the current text base file have been added "
                     U"to the parsing list.",
             .notRead = U"The dictionary of this text could not be read."});

@@ -15,13 +15,11 @@ void TagChecker_Click(Form1& form) {
 
 void FindTagAtCaret(Form1& form) {
   if (!HasTagsToLookFor(form)) return;
-  const auto caret = static_cast<Position>(form.WorkState.CaretPos.Number());
-  if (const std::optional<int> found = FindCoveringTag(form.TagList, caret)) {
+  if (const auto found = FindCoveringTag(form.TagList, form.WorkState.CaretPos)) {
     form.TagList.ListIndex = *found;
     const TagSpan span = CutTagSpan(form.TagList.List(*found));
     form.RichTextBox1.SelectSpan(span.start, span.end);
   }
-  form.RichTextBox1.Refresh();
 }
 
 }  // namespace quill

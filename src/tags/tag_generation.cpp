@@ -42,10 +42,10 @@ void Generate_Tag_Click(Form1& form) {
   if (form.EndPosition.Text == U"End") return;
   if (form.TagList.ListIndex != -1) TakeSelectedTag(form);
   AssignNextTagID(form);
-  form.ID.Text = form.WorkState.NextTagID.Text();
+  form.ID.Text = TextOf(form.WorkState.NextTagID);
   form.WorkState.GeneratedTag = ComposeTag(EditorFields(form));
   ColourTaggedString(form);
-  form.TaggedString.Text = form.WorkState.GeneratedTag.Text();
+  form.TaggedString.Text = form.WorkState.GeneratedTag.Get();
   ApplyTagToText(form);
 }
 
@@ -62,13 +62,13 @@ void ApplyTagToText(Form1& form) {
   form.WorkState.TagStart = Val(form.StartPosition.Text.Get());
   form.WorkState.TagEnd = Val(form.EndPosition.Text.Get());
   form.RichTextBox1.SetFocus();
-  form.RichTextBox1.SelectSpan(form.WorkState.TagStart.Number(), form.WorkState.TagEnd.Number());
+  form.RichTextBox1.SelectSpan(form.WorkState.TagStart, form.WorkState.TagEnd);
   form.RichTextBox1.SelCharOffset = kRaised;
   form.RichTextBox1.SelBold = false;
   if (const auto kind = KindOfTag(form.OperatorCombo.Text.Get())) {
     form.RichTextBox1.SelColor = MarkColour(*kind);
   }
-  CarryOn([&] { form.TagList.AddItem(form.WorkState.GeneratedTag.Text()); });
+  CarryOn([&] { form.TagList.AddItem(form.WorkState.GeneratedTag.Get()); });
   CarryOn([&] { EnsureTagListFile(form); });
   CarryOn([&] { AppendGeneratedTag(form); });
   form.RefFrame.Visible = false;

@@ -18,7 +18,7 @@ namespace {
 // The lines of the file that the user gave up.
 std::string TakenLines(const Form1& form) {
   std::string bytes;
-  for (const std::u32string& line : form.TakenTags.Of(form.WorkState.TagListFile.Text())) {
+  for (const std::u32string& line : form.TakenTags.Of(form.WorkState.TagListFile)) {
     bytes += EncodeLine(line) + "\r\n";
   }
   return bytes;
@@ -57,12 +57,12 @@ bool HoldsForeignLine(std::string_view file, std::string_view known) {
 }
 
 void DeriveTagListFile(Form1& form) {
-  form.WorkState.TagListFile = TagListOf(form.WorkState.TextBaseFile.Text());
+  form.WorkState.TagListFile = TagListOf(form.WorkState.TextBaseFile);
 }
 
 // Returns its path.
 std::string MakeIfMissing(const Form1& form) {
-  std::string path = EncodePath(form.WorkState.TagListFile.Text());
+  std::string path = EncodePath(form.WorkState.TagListFile.Get());
   form.TheDisk().CreateIfMissing(path);
   return path;
 }
@@ -89,13 +89,13 @@ void TakeSelectedTag(Form1& form) {
   const int index = form.TagList.ListIndex;
   const std::u32string line = form.TagList.List(index);
   form.WorkState.CurrentTag = line;
-  form.TakenTags.Add(form.WorkState.TagListFile.Text(), line);
+  form.TakenTags.Add(form.WorkState.TagListFile, line);
   form.TagList.RemoveItem(index);
 }
 
 void AppendGeneratedTag(Form1& form) {
-  form.TheDisk().AppendLine(EncodePath(form.WorkState.TagListFile.Text()),
-                            EncodeLine(form.WorkState.GeneratedTag.Text()));
+  form.TheDisk().AppendLine(EncodePath(form.WorkState.TagListFile.Get()),
+                            EncodeLine(form.WorkState.GeneratedTag.Get()));
 }
 
 void RewriteTagListFile(Form1& form) {

@@ -42,7 +42,7 @@ void MakePlain(TextSurface& text, Range span) {
 void RemoveItem_Click(Form1& form) {
   if (form.TagList.ListIndex == -1) return;
   TakeSelectedTag(form);
-  const TagSpan span = CutTagSpan(form.WorkState.CurrentTag.Text());
+  const TagSpan span = CutTagSpan(form.WorkState.CurrentTag.Get());
   form.RichTextBox1.SelectSpan(span.start, span.end);
   const Range removed = form.RichTextBox1.Selection();
   if (const auto other = FindTagOf(form.TagList, form.RichTextBox1.SelText())) {

@@ -156,7 +156,6 @@ class CommonDialog : public Control {
   std::u32string DialogTitle;
   std::u32string Filter;
   std::u32string FileName;  // empty after a cancel, and at the start
-  bool CancelError = false;
 
   void ShowOpen();
   void ShowSave();

@@ -67,7 +67,6 @@ class TextSurface : public Control {
   void SaveFile(const std::u32string& path);
   // The path last loaded from or saved to; empty before.
   const std::u32string& FilePath() const { return filePath_; }
-  void Refresh() {}
 
   // The first position in [from, text's end) of a character that has, or lacks, a colour; the
   // text's length where there is none.

@@ -1,41 +1,40 @@
-// Dynamically typed values of the record of working state.
+// A value of the record of working state: empty until it is first written.
 #pragma once
 
+#include <optional>
 #include <string>
-#include <string_view>
-#include <variant>
+#include <utility>
+
+#include "text/numbers.h"
 
 namespace quill {
 
-// Empty, a number or a string.
+// Reads as 0 or "" while it is empty.
+template <class T>
 class WorkValue {
  public:
   WorkValue() = default;
-  WorkValue(double number) : value_(number) {}
-  WorkValue(int number) : value_(static_cast<double>(number)) {}
-  WorkValue(long number) : value_(static_cast<double>(number)) {}
-  WorkValue(unsigned number) : value_(static_cast<double>(number)) {}
-  WorkValue(std::u32string string) : value_(std::move(string)) {}
-  WorkValue(const char32_t* string) : value_(std::u32string(string)) {}
+  WorkValue(T value) : value_(std::move(value)) {}
+  WorkValue& operator=(T value) {
+    value_ = std::move(value);
+    return *this;
+  }
 
-  bool IsEmpty() const { return std::holds_alternative<std::monostate>(value_); }
-  bool IsNumber() const { return std::holds_alternative<double>(value_); }
-  bool IsString() const { return std::holds_alternative<std::u32string>(value_); }
-
-  // The number; 0 for Empty; a string fails unless it is decimal digits only.
-  double Number() const;
-  // The string; a number in its decimal form; Empty as "".
-  std::u32string Text() const;
+  bool IsEmpty() const { return !value_; }
+  const T& Get() const {
+    static const T kNothing{};
+    return value_ ? *value_ : kNothing;
+  }
+  operator const T&() const { return Get(); }
+  friend bool operator==(const WorkValue& value, const T& other) { return value.Get() == other; }
 
  private:
-  std::variant<std::monostate, double, std::u32string> value_;
+  std::optional<T> value_;
 };
 
-// Empty equals "" and nothing else; a number is compared on its decimal form.
-bool operator==(const WorkValue& value, std::u32string_view literal);
-// Empty counts as 0.
-WorkValue operator+(const WorkValue& left, double right);
-// In characters; 0 for Empty.
-double Len(const WorkValue& value);
+// In decimal form; "" for an empty one.
+inline std::u32string TextOf(const WorkValue<double>& number) {
+  return number.IsEmpty() ? std::u32string() : DecimalText(number);
+}
 
 }  // namespace quill

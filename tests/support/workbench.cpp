@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "text/marks.h"
+#include "text/unicode.h"
 
 namespace quill::test {
 namespace {
@@ -37,6 +38,12 @@ char LetterOf(const Attributes& attributes) {
   return '?';
 }
 
+std::string Printed(const std::u32string& text) { return "'" + ToUtf8(text) + "'"; }
+template <class Number>
+std::string Printed(Number number) {
+  return ToUtf8(DecimalText(static_cast<double>(number)));
+}
+
 }  // namespace
 
 Document Painted(std::u32string_view text, std::string_view drawing) {
@@ -57,6 +64,15 @@ std::string Drawing(const TextSurface& surface) {
   std::string drawing;
   for (Position at = 0; at < surface.Length(); ++at) drawing += LetterOf(surface.Doc().At(at));
   return drawing;
+}
+
+std::string Fields(const WorkState& state) {
+  std::string fields;
+  state.ForEach([&](std::string_view name, const auto& value) {
+    fields.append(name).append("=");
+    fields.append(value.IsEmpty() ? "(empty)" : Printed(value.Get())).append("\n");
+  });
+  return fields;
 }
 
 void Workbench::ShowText(std::u32string_view characters, std::string_view drawing) {

@@ -19,6 +19,9 @@ Document Painted(std::u32string_view text, std::string_view drawing);
 // The colours and underlines of the text.
 std::string Drawing(const TextSurface& surface);
 
+// The fields of the record, a line each.
+std::string Fields(const WorkState& state);
+
 struct Workbench {
   MemoryDisk disk;
   ScriptedDialogs dialogs;

@@ -143,7 +143,7 @@ TEST_F(DialogsTest, AsksForATextAsGiven) {
     dialog.reject();
   });
   Choose("mnuFileOpen");
-  EXPECT_EQ(form.WorkState.TextBaseFile.Text(), U"");
+  EXPECT_EQ(form.WorkState.TextBaseFile.Get(), U"");
 }
 
 TEST_F(DialogsTest, TheSaveDialogStartsBesideTheTextAndAsksBeforeItOverwrites) {

@@ -26,7 +26,7 @@ TEST_F(WindowTest, FromALemmaToTheParsingListAndBack) {
   ASSERT_EQ(form.Parse_listbox.ListCount(), 3);
   ExpectShown(window, form);
   ClickRow("Parse_listbox", 1);
-  EXPECT_EQ(form.WorkState.ParseIndex.Number(), 1);
+  EXPECT_EQ(form.WorkState.ParseIndex.Get(), 1);
   Press("Parse_cull");
   EXPECT_EQ(form.Parse_listbox.ListCount(), 2);
   EXPECT_EQ(form.Parse_listbox.ListIndex, -1);

@@ -23,13 +23,19 @@ Json ValueOf(Colour colour) {
   return colour;
 }
 
-Json ValueOf(const WorkValue& value) {
+Json ValueOf(int number) { return number; }
+
+Json ValueOf(Position place) { return place; }
+
+Json ValueOf(double number) {
   constexpr double kExact = 9007199254740992;  // doubles count by ones up to here
-  if (value.IsEmpty()) return {};
-  if (value.IsString()) return ToUtf8(value.Text());
-  const double number = value.Number();
   if (number != std::floor(number) || std::abs(number) > kExact) return number;
   return static_cast<std::int64_t>(number);
+}
+
+template <class T>
+Json ValueOf(const WorkValue<T>& value) {
+  return value.IsEmpty() ? Json() : ValueOf(value.Get());
 }
 
 // Runs of characters that print equal; a raised position prints as such, whatever its height.
@@ -133,7 +139,7 @@ Json ControlState(const Control& control) {
 Json WorkStateOf(const Form1& form) {
   Json state;
   form.WorkState.ForEach(
-      [&](std::string_view name, const WorkValue& value) { state[name] = ValueOf(value); });
+      [&](std::string_view name, const auto& value) { state[name] = ValueOf(value); });
   return state;
 }
 
