@@ -22,10 +22,7 @@ class NoDialogs : public Dialogs {
                                          const std::u32string& /*proposed*/) override {
     return std::nullopt;
   }
-  int MsgBox(const std::u32string& /*prompt*/, int /*buttons*/,
-             const std::u32string& /*title*/) override {
-    return 1;
-  }
+  Button MsgBox(const MessageBox& /*box*/) override { return Button::kOk; }
 };
 
 // Remembers what was last written, under whatever name, so that a rewrite finds what it replaces.

@@ -234,13 +234,13 @@ TEST_F(Files, SaveTellsTheUserOfAFailure) {
     FilesBench bench;
     bench.Open({u32string(U"x.tbf")});
     bench.disk.Refuse(row.call, row.path);
-    bench.dialogs.answers = {u32string(U"y.tbf"), 1};
+    bench.dialogs.answers = {u32string(U"y.tbf"), Button::kOk};
     bench.program.Click(bench.form.mnuFileSave);
     const Shown& box = bench.dialogs.shown.back();
     EXPECT_EQ(box.dialog, "MsgBox");
-    EXPECT_TRUE(box.prompt == U"The text could not be saved to y.tbf.");
+    EXPECT_TRUE(box.box.prompt == U"The text could not be saved to y.tbf.");
     EXPECT_TRUE(box.title == U"Save failed");
-    EXPECT_EQ(box.buttons, 16);
+    EXPECT_EQ(box.box.icon, MessageBox::Icon::kCritical);
     EXPECT_FALSE(bench.disk.Has("y.tbf"));
     EXPECT_EQ(bench.form.User_Dialogue.Text == ProcessGuidance(), row.guidance);
     EXPECT_EQ(bench.State(),

@@ -67,7 +67,7 @@ TEST_F(DictionaryPanel, ReservedCharactersAreRefused) {
   for (const char32_t* lemma : {U"\\", U"a|b", U"<", U"then>"}) {
     FillIn(lemma, U"lost");
     program.Click(form.B_type_add);
-    dialogs.answers.emplace_back(1);
+    dialogs.answers.emplace_back(Button::kOk);
     program.Click(form.Add_to_spec_dict);
     // The box has the focus again and is empty: its GotFocus comes last.
     EXPECT_EQ(form.Focus(), &form.add_to_dictionary);
@@ -77,7 +77,7 @@ TEST_F(DictionaryPanel, ReservedCharactersAreRefused) {
     EXPECT_EQ(Open(), "ABF");
   }
   EXPECT_EQ(dialogs.shown.size(), 4U);
-  EXPECT_EQ(dialogs.shown[0].buttons, 16);
+  EXPECT_EQ(dialogs.shown[0].box.icon, MessageBox::Icon::kCritical);
   EXPECT_EQ(form.Parse_listbox.ListCount(), 0);
   EXPECT_TRUE(disk.files.empty());
 }

@@ -232,7 +232,7 @@ TEST(ParsingProperty, OneTermWithAndWithoutQuestions) {
     PlainScan(plain.form, [&](TextSurface& text, const Chars& category) {
       if (!asks) return PlainMark(text, category);
       const bool yes = answers() % 3 != 0;
-      fast.dialogs.answers.emplace_back(yes ? 6 : 7);
+      fast.dialogs.answers.emplace_back(yes ? Button::kYes : Button::kNo);
       if (!yes) text.SelColor = kPlain;
       if (yes) text.SelColor = kAskedAbout;
       if (yes && category == U"A") text.SelColor = kMarkedA;

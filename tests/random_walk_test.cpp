@@ -106,7 +106,7 @@ class Walk {
     const Look before = Now();
     const scenario::Json state = inReach ? scenario::Json() : scenario::State(program_);
     dialogs_.opened.clear();
-    dialogs_.button = 0;
+    dialogs_.button.reset();
     user_.Do(action);
     if (!inReach) {
       EXPECT_EQ(state, scenario::State(program_)) << "something out of reach was reached";
@@ -223,7 +223,7 @@ class Walk {
   void ExpectRemoved(const Look& before, const Look& after, Seen& seen) {
     EXPECT_EQ(GiveUp(before, TagFile()), after.tags);
     Files files = before.files;
-    if (dialogs_.button == 1) {
+    if (dialogs_.button == Button::kOk) {
       ++seen.rewrites;
       const std::string old = files[TagFile()];
       files[TagFile()] = FileOf(after.tags);

@@ -153,32 +153,47 @@ TEST(Player, RefusesAnswersThatDoNotFit) {
 
 TEST(ScriptedDialogs, MessageBoxesTakeTheAnswersThatTheyHaveButtonsFor) {
   using scenario::AnswerStep;
+  using Icon = MessageBox::Icon;
+  using Buttons = MessageBox::Buttons;
   struct Row {
-    int buttons;
+    Icon icon;
+    Buttons buttons;
     AnswerStep::Kind answer;
-    int result;  // 0 where the answer does not fit
+    std::optional<Button> pressed;  // nothing where the answer does not fit
+    int printedButtons = 0;
+    int printedResult = 0;
   };
   const Row rows[] = {
-      {0, AnswerStep::kOk, 1},      {0, AnswerStep::kCancel, 0},   {0, AnswerStep::kYes, 0},
-      {16, AnswerStep::kOk, 1},     {16, AnswerStep::kCancel, 0},  {33, AnswerStep::kOk, 1},
-      {33, AnswerStep::kCancel, 2}, {33, AnswerStep::kNo, 0},      {52, AnswerStep::kYes, 6},
-      {52, AnswerStep::kNo, 7},     {52, AnswerStep::kCancel, 0},  {52, AnswerStep::kOk, 0},
-      {33, AnswerStep::kPath, 0},   {0, AnswerStep::kProposed, 0},
+      {Icon::kNone, Buttons::kOk, AnswerStep::kOk, Button::kOk, 0, 1},
+      {Icon::kNone, Buttons::kOk, AnswerStep::kCancel, {}},
+      {Icon::kNone, Buttons::kOk, AnswerStep::kYes, {}},
+      {Icon::kNone, Buttons::kOk, AnswerStep::kProposed, {}},
+      {Icon::kCritical, Buttons::kOk, AnswerStep::kOk, Button::kOk, 16, 1},
+      {Icon::kQuestion, Buttons::kOkCancel, AnswerStep::kOk, Button::kOk, 33, 1},
+      {Icon::kQuestion, Buttons::kOkCancel, AnswerStep::kCancel, Button::kCancel, 33, 2},
+      {Icon::kQuestion, Buttons::kOkCancel, AnswerStep::kNo, {}},
+      {Icon::kQuestion, Buttons::kOkCancel, AnswerStep::kPath, {}},
+      {Icon::kExclamation, Buttons::kYesNo, AnswerStep::kYes, Button::kYes, 52, 6},
+      {Icon::kExclamation, Buttons::kYesNo, AnswerStep::kNo, Button::kNo, 52, 7},
+      {Icon::kExclamation, Buttons::kYesNo, AnswerStep::kCancel, {}},
+      {Icon::kExclamation, Buttons::kYesNo, AnswerStep::kOk, {}},
   };
   for (const Row& row : rows) {
+    SCOPED_TRACE(&row - rows);
     std::ostringstream out;
     scenario::ScriptedDialogs dialogs(out);
     dialogs.Add({row.answer, U"x"}, 1);
-    if (row.result == 0) {
-      EXPECT_ANY_THROW(dialogs.MsgBox(U"Why?", row.buttons, U"Title")) << row.buttons;
+    const MessageBox box{U"Why?", U"Title", row.icon, row.buttons};
+    if (!row.pressed) {
+      EXPECT_ANY_THROW(dialogs.MsgBox(box));
       continue;
     }
-    EXPECT_EQ(dialogs.MsgBox(U"Why?", row.buttons, U"Title"), row.result) << row.buttons;
+    EXPECT_EQ(dialogs.MsgBox(box), row.pressed);
     const Json wanted = {{"MsgBox",
                           {{"prompt", "Why?"},
-                           {"buttons", row.buttons},
+                           {"buttons", row.printedButtons},
                            {"title", "Title"},
-                           {"result", row.result}}}};
+                           {"result", row.printedResult}}}};
     EXPECT_EQ(Lines(out.str()), std::vector<Json>{wanted});
   }
 }

@@ -262,7 +262,7 @@ TEST_F(TagFlows, RemovalLooksForTheSameWord) {
     ShowText(U"one two three two", "aaaaaaaaaaaaaaaaa");
     Fill(row.lines);
     program.ClickItem(form.TagList, row.removed);
-    dialogs.answers = {2};
+    dialogs.answers = {Button::kCancel};
     program.Click(form.RemoveItem);
     EXPECT_EQ(form.TagList.ListCount(), static_cast<int>(row.lines.size()) - 1);
     EXPECT_EQ(form.TagList.ListIndex, row.other);
@@ -280,7 +280,7 @@ TEST_F(TagFlows, AFileThatCannotBeRewrittenIsNoMessage) {
   program.ClickItem(form.TagList, 0);
   disk.files["x.tlf"] = "as it was";
   disk.Refuse(DiskCall::kReplace, "x.tlf");
-  dialogs.answers = {1};
+  dialogs.answers = {Button::kOk};
   program.Click(form.RemoveItem);
   EXPECT_EQ(disk.files["x.tlf"], "as it was");
   EXPECT_FALSE(form.RemoveItem.Enabled);

@@ -39,8 +39,10 @@ void mnuFileSave_Click(Form1& form) {
     EnsureTagListFile(form);
     form.RichTextBox1.SaveFile(form.WorkState.TextBaseFile);
   } catch (const StatementFailed&) {
-    form.MsgBox(U"The text could not be saved to " + form.WorkState.TextBaseFile.Get() + U".", 16,
-                U"Save failed");
+    form.MsgBox(
+        {.prompt = U"The text could not be saved to " + form.WorkState.TextBaseFile.Get() + U".",
+         .title = U"Save failed",
+         .icon = MessageBox::Icon::kCritical});
     return;
   }
   ShowSaved(form);

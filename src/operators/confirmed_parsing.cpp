@@ -9,15 +9,15 @@
 namespace quill {
 namespace {
 
-constexpr int kExclamationYesNo = 52;
-constexpr int kYes = 6;
-
 bool Confirmed(Form1& form) {
   TextSurface& text = form.RichTextBox1;
   text.SelColor = kAskedAbout;
   text.SelUnderline = true;
   text.SelBold = true;
-  return form.MsgBox(U"Mark this word?", kExclamationYesNo, U"Confirm markup") == kYes;
+  return form.MsgBox({.prompt = U"Mark this word?",
+                      .title = U"Confirm markup",
+                      .icon = MessageBox::Icon::kExclamation,
+                      .buttons = MessageBox::Buttons::kYesNo}) == Button::kYes;
 }
 
 void Mark(Form1& form) {

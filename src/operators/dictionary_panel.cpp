@@ -11,7 +11,6 @@ namespace quill {
 namespace {
 
 constexpr std::u32string_view kEmptyBox = U" ";
-constexpr int kCriticalOk = 16;
 
 void ChooseKind(Form1& form, OperatorKind kind) {
   if (form.add_to_dictionary.Text == kEmptyBox) {
@@ -25,10 +24,11 @@ void ChooseKind(Form1& form, OperatorKind kind) {
 }
 
 void Refuse(Form1& form) {
-  form.MsgBox(
-      U"You have entered one of the reserved characters = \\, |, <, >. Please re-type without any "
-      U"of these.",
-      kCriticalOk, U"Wrong entry!");
+  form.MsgBox({.prompt = U"You have entered one of the reserved characters = \\, |, <, >. Please "
+                         U"re-type without any "
+                         U"of these.",
+               .title = U"Wrong entry!",
+               .icon = MessageBox::Icon::kCritical});
   form.add_to_dictionary.Text = U" ";
   form.add_to_dictionary.SetFocus();
   form.add_to_dictionary.BackColor = kWindowBackground;

@@ -5,21 +5,18 @@
 #include "workbench/form1.h"
 
 namespace quill {
-namespace {
-
-constexpr int kOkOnly = 0;
-
-}  // namespace
 
 bool HasItems(Form1& form) {
   if (form.Parse_listbox.ListCount() > 0) return true;
-  form.MsgBox(U"You have to read in or specify operator terms first.", kOkOnly, U"Input required");
+  form.MsgBox({.prompt = U"You have to read in or specify operator terms first.",
+               .title = U"Input required"});
   return false;
 }
 
 bool HasSelectedItem(Form1& form) {
   if (form.Parse_listbox.ListIndex != -1) return true;
-  form.MsgBox(U"Click on the operator you wish to parse for.", kOkOnly, U"Input required");
+  form.MsgBox(
+      {.prompt = U"Click on the operator you wish to parse for.", .title = U"Input required"});
   return false;
 }
 

@@ -51,12 +51,11 @@ void RemoveItem_Click(Form1& form) {
     MakePlain(form.RichTextBox1, removed);
     ResetTagEditor(form);
   }
-  constexpr int kOkCancelQuestion = 33;
-  constexpr int kOk = 1;
-  if (form.MsgBox(U"Do you want to save this change?", kOkCancelQuestion, U"Input required") !=
-      kOk) {
-    return;
-  }
+  const Button answer = form.MsgBox({.prompt = U"Do you want to save this change?",
+                                     .title = U"Input required",
+                                     .icon = MessageBox::Icon::kQuestion,
+                                     .buttons = MessageBox::Buttons::kOkCancel});
+  if (answer == Button::kCancel) return;
   CarryOn([&] { RewriteTagListFile(form); });
   form.RemoveItem.Enabled = false;
 }

@@ -76,13 +76,13 @@ class Question : public QMessageBox {
   }
 };
 
-QMessageBox::Icon IconOf(int buttons) {
-  switch (buttons & 0x70) {
-    case 16:
+QMessageBox::Icon IconOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::kCritical:
       return QMessageBox::Critical;
-    case 32:
+    case MessageBox::Icon::kQuestion:
       return QMessageBox::Question;
-    case 48:
+    case MessageBox::Icon::kExclamation:
       return QMessageBox::Warning;
     default:
       return QMessageBox::NoIcon;
@@ -97,8 +97,8 @@ int WidthOfTitle(const QString& title) {
   return QFontMetrics(font).horizontalAdvance(title) + kIconAndButtons;
 }
 
-int Run(QMessageBox& box, int buttons, const QString& prompt, const QString& title) {
-  box.setIcon(IconOf(buttons));
+int Run(QMessageBox& box, QMessageBox::Icon icon, const QString& prompt, const QString& title) {
+  box.setIcon(icon);
   box.setTextFormat(Qt::PlainText);
   box.setText(prompt);
   box.setWindowTitle(title);
@@ -107,11 +107,6 @@ int Run(QMessageBox& box, int buttons, const QString& prompt, const QString& tit
   grid.addItem(new QSpacerItem(WidthOfTitle(title), 0), grid.rowCount(), 0, 1, grid.columnCount());
   return box.exec();
 }
-
-constexpr int kOk = 1;
-constexpr int kCancel = 2;
-constexpr int kYes = 6;
-constexpr int kNo = 7;
 
 }  // namespace
 
@@ -172,33 +167,29 @@ bool WindowDialogs::MayWrite(const QString& path) {
   QMessageBox box(window_);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
-  constexpr int kExclamation = 48;
-  return Run(box, kExclamation,
+  return Run(box, QMessageBox::Warning,
              QStringLiteral("The file %1 exists already. Replace it?").arg(file.fileName()),
              QStringLiteral("Replace file")) == QMessageBox::Yes;
 }
 
-int WindowDialogs::MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) {
-  switch (buttons & 0xF) {
-    case 4: {
-      Question box(window_);
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setDefaultButton(QMessageBox::Yes);
-      return Run(box, buttons, ToQt(prompt), ToQt(title)) == QMessageBox::Yes ? kYes : kNo;
-    }
-    case 1: {
-      QMessageBox box(window_);
-      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      box.setDefaultButton(QMessageBox::Ok);
-      return Run(box, buttons, ToQt(prompt), ToQt(title)) == QMessageBox::Ok ? kOk : kCancel;
-    }
-    default: {
-      QMessageBox box(window_);
-      box.setStandardButtons(QMessageBox::Ok);
-      Run(box, buttons, ToQt(prompt), ToQt(title));
-      return kOk;
-    }
+Button WindowDialogs::MsgBox(const MessageBox& box) {
+  const auto run = [&](QMessageBox& shown, QMessageBox::StandardButtons buttons) {
+    shown.setStandardButtons(buttons);
+    shown.setDefaultButton((buttons & QMessageBox::Yes) != 0 ? QMessageBox::Yes : QMessageBox::Ok);
+    return Run(shown, IconOf(box.icon), ToQt(box.prompt), ToQt(box.title));
+  };
+  if (box.buttons == MessageBox::Buttons::kYesNo) {
+    Question shown(window_);
+    const int pressed = run(shown, QMessageBox::Yes | QMessageBox::No);
+    return pressed == QMessageBox::Yes ? Button::kYes : Button::kNo;
   }
+  QMessageBox shown(window_);
+  if (box.buttons == MessageBox::Buttons::kOk) {
+    run(shown, QMessageBox::Ok);
+    return Button::kOk;
+  }
+  const int pressed = run(shown, QMessageBox::Ok | QMessageBox::Cancel);
+  return pressed == QMessageBox::Ok ? Button::kOk : Button::kCancel;
 }
 
 QPoint PlaceOfQuestion(QSize size, const QRect& text, const QRect& term, const QRect& screen) {

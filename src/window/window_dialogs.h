@@ -21,7 +21,7 @@ class WindowDialogs final : public Dialogs {
   // Asks before an existing file is overwritten, unless it is the working copy on show.
   std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
                                          const std::u32string& proposed) override;
-  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override;
+  Button MsgBox(const MessageBox& box) override;
 
  private:
   QString StartFolder() const;

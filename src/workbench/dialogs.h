@@ -6,6 +6,18 @@
 
 namespace quill {
 
+enum class Button { kOk, kCancel, kYes, kNo };
+
+struct MessageBox {
+  enum class Icon { kNone, kCritical, kQuestion, kExclamation };
+  enum class Buttons { kOk, kOkCancel, kYesNo };
+
+  std::u32string prompt;
+  std::u32string title;
+  Icon icon = Icon::kNone;
+  Buttons buttons = Buttons::kOk;
+};
+
 // Modal dialogs. Calls return when the user has answered.
 class Dialogs {
  public:
@@ -18,9 +30,8 @@ class Dialogs {
   virtual std::optional<std::u32string> ShowSave(const std::u32string& title,
                                                  const std::u32string& filter,
                                                  const std::u32string& proposed) = 0;
-  // The button pressed: 1 OK, 2 Cancel, 6 Yes, 7 No. Buttons: 0 OK; 16 critical icon, OK;
-  // 33 question icon, OK and Cancel; 52 exclamation icon, Yes and No.
-  virtual int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) = 0;
+  // The button pressed.
+  virtual Button MsgBox(const MessageBox& box) = 0;
 };
 
 }  // namespace quill

@@ -29,9 +29,9 @@ Control& Form1::ContainerOf(const Control& control) const {
 
 void Form1::Enter(Control& control) { controls_.push_back(&control); }
 
-int Form1::MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) {
+Button Form1::MsgBox(const MessageBox& box) {
   watcher_->DialogOpens();
-  return dialogs_.MsgBox(prompt, buttons, title);
+  return dialogs_.MsgBox(box);
 }
 
 bool Form1::MoveFocus(Control& control) {

@@ -134,8 +134,8 @@ class Form1 : public Control {
   Dialogs& TheDialogs() const { return dialogs_; }
   Disk& TheDisk() const { return disk_; }
 
-  // A modal message box; returns the button pressed.
-  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title);
+  // Returns the button pressed.
+  Button MsgBox(const MessageBox& box);
   // Queues keystrokes that arrive after the running handler has ended, in the control that has the
   // focus then, every character as itself.
   void SendKeys(std::u32string_view text) { keys_.append(text); }

@@ -74,8 +74,7 @@ struct Shown {
   std::u32string title;
   std::u32string filter = {};    // of a file dialog
   std::u32string proposed = {};  // of a save dialog
-  std::u32string prompt = {};    // of a message box
-  int buttons = 0;               // of a message box
+  MessageBox box = {};
 };
 
 class ScriptedDialogs final : public Dialogs {
@@ -83,12 +82,12 @@ class ScriptedDialogs final : public Dialogs {
   struct Cancel {};
   struct Proposed {};
   // A path, a button of a message box, or what the user does with a file dialog.
-  using Answer = std::variant<std::u32string, int, Cancel, Proposed>;
+  using Answer = std::variant<std::u32string, Button, Cancel, Proposed>;
 
   std::deque<Answer> answers;
   std::vector<Shown> shown;
   // Where it is set, it answers the message boxes.
-  std::function<int(const std::u32string& prompt, int buttons, const std::u32string& title)> ask;
+  std::function<Button(const MessageBox& box)> ask;
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                          const std::u32string& filter) override {
@@ -100,9 +99,9 @@ class ScriptedDialogs final : public Dialogs {
     shown.push_back({.dialog = "ShowSave", .title = title, .filter = filter, .proposed = proposed});
     return Path(proposed);
   }
-  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override {
-    shown.push_back({.dialog = "MsgBox", .title = title, .prompt = prompt, .buttons = buttons});
-    return ask ? ask(prompt, buttons, title) : std::get<int>(Next());
+  Button MsgBox(const MessageBox& box) override {
+    shown.push_back({.dialog = "MsgBox", .title = box.title, .box = box});
+    return ask ? ask(box) : std::get<Button>(Next());
   }
 
  private:

@@ -68,26 +68,16 @@ std::optional<std::u32string> RandomDialogs::ShowSave(const std::u32string& /*ti
   return name;
 }
 
-int RandomDialogs::MsgBox(const std::u32string& /*prompt*/, int buttons,
-                          const std::u32string& title) {
-  if (title == U"Save failed") ++saveFailures;
+Button RandomDialogs::MsgBox(const MessageBox& box) {
+  if (box.title == U"Save failed") ++saveFailures;
   const bool first = dice_.Percent(70);
-  switch (buttons & 15) {
-    case 0:
-      button = 1;
-      break;
-    case 1:
-      button = first ? 1 : 2;
-      break;
-    case 4:
-      button = first ? 6 : 7;
-      break;
-    default:
-      throw std::logic_error("a message box with other buttons");
-  }
-  constexpr const char* kAnswers[] = {"", "ok", "cancel", "", "", "", "yes", "no"};
-  Write(kAnswers[button]);
-  return button;
+  Button pressed = Button::kOk;
+  if (box.buttons == MessageBox::Buttons::kYesNo) pressed = first ? Button::kYes : Button::kNo;
+  if (box.buttons == MessageBox::Buttons::kOkCancel && !first) pressed = Button::kCancel;
+  constexpr const char* kAnswers[] = {"ok", "cancel", "yes", "no"};
+  Write(kAnswers[static_cast<int>(pressed)]);
+  button = pressed;
+  return pressed;
 }
 
 Control& RandomUser::ChooseControl() {

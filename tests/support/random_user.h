@@ -37,9 +37,9 @@ class RandomDialogs final : public Dialogs {
       : dice_(dice), disk_(disk), scenario_(scenario) {}
 
   // The answers of the last action: the path that was opened, and the button of the message box;
-  // empty and 0 where there was none.
+  // empty where there was none.
   std::u32string opened;
-  int button = 0;
+  std::optional<Button> button;
   bool cancelled = false;
   int saveFailures = 0;
 
@@ -47,7 +47,7 @@ class RandomDialogs final : public Dialogs {
                                          const std::u32string& filter) override;
   std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
                                          const std::u32string& proposed) override;
-  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override;
+  Button MsgBox(const MessageBox& box) override;
 
  private:
   void Write(std::string_view answer) { scenario_ << "answer " << answer << std::endl; }

@@ -21,20 +21,23 @@
 namespace quill::test {
 namespace {
 
+using Buttons = MessageBox::Buttons;
+using Icon = MessageBox::Icon;
+
 class MessageBoxTest : public testing::Test {
  protected:
   MessageBoxTest() { dialogs.Attach(window, form); }
 
   // Shows a box, lets `look` see it, then presses the keys in turn.
-  int Answer(int buttons, std::initializer_list<Qt::Key> keys,
-             const std::function<void(QMessageBox&)>& look = {}) {
+  Button Answer(Buttons buttons, Icon icon, std::initializer_list<Qt::Key> keys,
+                const std::function<void(QMessageBox&)>& look = {}) {
     QTimer::singleShot(0, &window, [&] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
       if (look) look(*box);
       for (const Qt::Key key : keys) QTest::keyClick(box, key);
     });
-    return dialogs.MsgBox(U"<b>Mark</b> this?", buttons, U"Confirm");
+    return dialogs.MsgBox({U"<b>Mark</b> this?", U"Confirm", icon, buttons});
   }
 
   QWidget window;
@@ -45,35 +48,41 @@ class MessageBoxTest : public testing::Test {
 };
 
 TEST_F(MessageBoxTest, ShowsWhatIsGiven) {
-  Answer(52, {Qt::Key_Return}, [](QMessageBox& box) {
+  Answer(Buttons::kYesNo, Icon::kExclamation, {Qt::Key_Return}, [](QMessageBox& box) {
     EXPECT_EQ(box.text(), "<b>Mark</b> this?");
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
     EXPECT_EQ(box.windowTitle(), "Confirm");
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
   });
-  Answer(16, {Qt::Key_Return},
+  Answer(Buttons::kOk, Icon::kCritical, {Qt::Key_Return},
          [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Critical); });
-  Answer(33, {Qt::Key_Return},
+  Answer(Buttons::kOkCancel, Icon::kQuestion, {Qt::Key_Return},
          [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
 }
 
 TEST_F(MessageBoxTest, Answers) {
-  EXPECT_EQ(Answer(0, {Qt::Key_Return}), 1);
-  EXPECT_EQ(Answer(16, {Qt::Key_Escape}), 1);
-  EXPECT_EQ(Answer(33, {Qt::Key_Return}), 1);
-  EXPECT_EQ(Answer(33, {Qt::Key_Escape}), 2);
-  EXPECT_EQ(Answer(52, {Qt::Key_Return}), 6) << "Yes is the default";
+  struct Row {
+    Buttons buttons;
+    Qt::Key key;
+    Button pressed;
+  };
+  for (const Row& row : {Row{Buttons::kOk, Qt::Key_Return, Button::kOk},
+                         Row{Buttons::kOk, Qt::Key_Escape, Button::kOk},
+                         Row{Buttons::kOkCancel, Qt::Key_Return, Button::kOk},
+                         Row{Buttons::kOkCancel, Qt::Key_Escape, Button::kCancel},
+                         Row{Buttons::kYesNo, Qt::Key_Return, Button::kYes}}) {
+    EXPECT_EQ(Answer(row.buttons, Icon::kNone, {row.key}), row.pressed);
+  }
 }
 
 TEST_F(MessageBoxTest, AYesNoQuestionHasNoOtherWayOut) {
-  EXPECT_EQ(Answer(52, {Qt::Key_Escape},
-                   [](QMessageBox& box) {
-                     box.close();
-                     QTest::keyClick(&box, Qt::Key_Escape);
-                     EXPECT_TRUE(box.isVisible());
-                     QTimer::singleShot(0, &box, [&box] { box.button(QMessageBox::No)->click(); });
-                   }),
-            7);
+  const auto look = [](QMessageBox& box) {
+    box.close();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_TRUE(box.isVisible());
+    QTimer::singleShot(0, &box, [&box] { box.button(QMessageBox::No)->click(); });
+  };
+  EXPECT_EQ(Answer(Buttons::kYesNo, Icon::kExclamation, {Qt::Key_Escape}, look), Button::kNo);
 }
 
 TEST_F(MessageBoxTest, HasRoomForItsTitle) {
@@ -85,7 +94,8 @@ TEST_F(MessageBoxTest, HasRoomForItsTitle) {
     EXPECT_GT(box->width(), QFontMetrics(font).horizontalAdvance(box->windowTitle()) + 100);
     QTest::keyClick(box, Qt::Key_Return);
   });
-  dialogs.MsgBox(U"?", 0, U"A title that is longer than what the box is asked by");
+  dialogs.MsgBox(
+      {.prompt = U"?", .title = U"A title that is longer than what the box is asked by"});
 }
 
 // The program on its real dialogs.

@@ -14,7 +14,7 @@
 namespace quill::test {
 namespace {
 
-using Button = QMessageBox::StandardButton;
+using Pressed = QMessageBox::StandardButton;
 
 constexpr const char* kDictionary =
     "left\\    \\A< d >\r\nno\\    \\B< d >\r\nnot\\    \\A< d >\r\nzzz\\    \\B< d >\r\n";
@@ -23,11 +23,11 @@ class ParsingTest : public WindowTest {
  protected:
   ParsingTest() {
     boxes.Attach(window, form);
-    dialogs.ask = [this](const auto& prompt, int buttons, const auto& title) {
+    dialogs.ask = [this](const MessageBox& box) {
       dialogHands.AtNext([this](QDialog& dialog) {
         DialogHands::Press(dialog, answer(dynamic_cast<QMessageBox&>(dialog)));
       });
-      const int pressed = boxes.MsgBox(prompt, buttons, title);
+      const Button pressed = boxes.MsgBox(box);
       dialogHands.Finish();
       return pressed;
     };
@@ -66,7 +66,7 @@ class ParsingTest : public WindowTest {
 
   WindowDialogs boxes;
   DialogHands dialogHands;
-  std::function<Button(QMessageBox&)> answer;  // looks at a box and chooses a button
+  std::function<Pressed(QMessageBox&)> answer;  // looks at a box and chooses a button
 };
 
 TEST_F(ParsingTest, TheMarksOfTheWholeListAreShown) {
@@ -85,7 +85,7 @@ TEST_F(ParsingTest, TheMarksOfTheWholeListAreShown) {
 
 TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
   OpenStory(120);
-  std::vector<Button> buttons{QMessageBox::Yes, QMessageBox::No};
+  std::vector<Pressed> buttons{QMessageBox::Yes, QMessageBox::No};
   std::size_t asked = 0;
   answer = [&](QMessageBox& box) {
     EXPECT_EQ(form.RichTextBox1.SelText(), U"left");

@@ -112,7 +112,7 @@ TEST_F(TagsTest, ALongListFollowsSingleChanges) {
   Press("TagChecker");
   ASSERT_EQ(form.TagList.ListIndex, 1000);
   ExpectRowInView();
-  dialogs.answers = {2, 2};
+  dialogs.answers = {Button::kCancel, Button::kCancel};
   Press("RemoveItem");
   EXPECT_LT(List().horizontalScrollBar()->maximum(), wide) << "the longest line is gone";
   ExpectShown(window, form);

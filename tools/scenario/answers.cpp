@@ -21,17 +21,27 @@ Json ResultOf(const std::optional<std::u32string>& path) {
   return path ? Json(ToUtf8(*path)) : Json();
 }
 
-// What a message box with these buttons returns for an answer; 0 where it lacks the button.
-int ButtonFor(AnswerStep::Kind answer, int buttons) {
-  const int set = buttons & 15;
-  const bool hasOk = set == 0 || set == 1;
-  const bool hasCancel = set == 1;
-  const bool hasYesAndNo = set == 4;
-  if (answer == AnswerStep::kOk && hasOk) return 1;
-  if (answer == AnswerStep::kCancel && hasCancel) return 2;
-  if (answer == AnswerStep::kYes && hasYesAndNo) return 6;
-  if (answer == AnswerStep::kNo && hasYesAndNo) return 7;
-  return 0;
+// The window system's numbers, as scenarios print them.
+int NumberOf(const MessageBox& box) {
+  constexpr int kIcons[] = {0, 16, 32, 48};
+  constexpr int kButtons[] = {0, 1, 4};
+  return kIcons[static_cast<int>(box.icon)] + kButtons[static_cast<int>(box.buttons)];
+}
+int NumberOf(Button button) {
+  constexpr int kNumbers[] = {1, 2, 6, 7};
+  return kNumbers[static_cast<int>(button)];
+}
+
+// Nothing where the message box lacks the button.
+std::optional<Button> ButtonFor(AnswerStep::Kind answer, MessageBox::Buttons buttons) {
+  const bool asksYesNo = buttons == MessageBox::Buttons::kYesNo;
+  if (answer == AnswerStep::kOk && !asksYesNo) return Button::kOk;
+  if (answer == AnswerStep::kCancel && buttons == MessageBox::Buttons::kOkCancel) {
+    return Button::kCancel;
+  }
+  if (answer == AnswerStep::kYes && asksYesNo) return Button::kYes;
+  if (answer == AnswerStep::kNo && asksYesNo) return Button::kNo;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -87,18 +97,17 @@ std::optional<std::u32string> ScriptedDialogs::ShowSave(const std::u32string& ti
   return result;
 }
 
-int ScriptedDialogs::MsgBox(const std::u32string& prompt, int buttons,
-                            const std::u32string& title) {
-  const std::string dialog = Called("MsgBox", prompt);
+Button ScriptedDialogs::MsgBox(const MessageBox& box) {
+  const std::string dialog = Called("MsgBox", box.prompt);
   const auto [answer, line] = Take(dialog);
-  const int result = ButtonFor(answer.kind, buttons);
-  if (result == 0) RefuseAnswer(dialog, line);
+  const std::optional<Button> pressed = ButtonFor(answer.kind, box.buttons);
+  if (!pressed) RefuseAnswer(dialog, line);
   PrintLine(out_, {{"MsgBox",
-                    {{"prompt", ToUtf8(prompt)},
-                     {"buttons", buttons},
-                     {"title", ToUtf8(title)},
-                     {"result", result}}}});
-  return result;
+                    {{"prompt", ToUtf8(box.prompt)},
+                     {"buttons", NumberOf(box)},
+                     {"title", ToUtf8(box.title)},
+                     {"result", NumberOf(*pressed)}}}});
+  return *pressed;
 }
 
 }  // namespace quill::scenario

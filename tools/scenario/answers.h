@@ -26,7 +26,7 @@ class ScriptedDialogs final : public Dialogs {
                                          const std::u32string& filter) override;
   std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
                                          const std::u32string& proposed) override;
-  int MsgBox(const std::u32string& prompt, int buttons, const std::u32string& title) override;
+  Button MsgBox(const MessageBox& box) override;
 
  private:
   struct Waiting {
