@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/workbench.h"
-#include "tags/reference_tag.h"
-#include "tags/tag_check.h"
+#include "tags/tag_at_caret.h"
 #include "tags/tag_record.h"
 #include "tags/tag_removal.h"
 #include "text/numbers.h"
@@ -197,11 +196,10 @@ TEST_F(TagFlows, TheReferenceIsTheFirstLineAtTheCaret) {
 TEST_F(TagFlows, NothingIsFoundOutsidePostProcessingOrInAnEmptyText) {
   Fill({Line(1, 3, U"one")});
   const auto expectNothing = [&] {
-    form.WorkState.CaretPos = 0;
-    FindTagAtCaret(form);
+    TagChecker_Click(form);
     EXPECT_EQ(form.TagList.ListIndex, -1);
     form.RefTagStart.Text = U"4";
-    FindReferenceTag(form);
+    RefTag_Click(form);
     EXPECT_TRUE(form.RefTagStart.Text == U" ");
   };
   form.PostFrame.Visible = false;

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "tags/tag_editor.h"
-#include "tags/underlines.h"
 #include "text/marks.h"
 #include "text/numbers.h"
 #include "workbench/form1.h"
@@ -81,7 +80,7 @@ void Restart_PP_Click(Form1& form) {
 
 void FindNextMarker(Form1& form) {
   form.TaggedString.Text = U" ";
-  ClearUnderlines(form);
+  form.RichTextBox1.ClearUnderlines();
   form.WorkState.ScanPos = form.WorkState.TagEnd + 1;
   form.WorkState.TextLen = form.RichTextBox1.Length();
   const Colour colour = form.WorkState.MarkerColor;

@@ -2,7 +2,6 @@
 
 #include "tags/tag_list_file.h"
 #include "tags/tag_record.h"
-#include "tags/underlines.h"
 #include "text/marks.h"
 #include "text/numbers.h"
 #include "workbench/failure.h"
@@ -72,7 +71,7 @@ void ApplyTagToText(Form1& form) {
   CarryOn([&] { EnsureTagListFile(form); });
   CarryOn([&] { AppendGeneratedTag(form); });
   form.RefFrame.Visible = false;
-  ClearUnderlines(form);
+  form.RichTextBox1.ClearUnderlines();
 }
 
 }  // namespace quill

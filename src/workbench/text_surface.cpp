@@ -67,6 +67,13 @@ void TextSurface::SelectSpan(double start, double end) {
   SelLength = first < 1 ? 0 : static_cast<Position>(length);
 }
 
+void TextSurface::ClearUnderlines() {
+  SelStart = 1;
+  SelLength = Length();
+  SelUnderline = false;
+  SelStart = 0;
+}
+
 void TextSurface::Select(Range range) {
   if (range == selection_) return;
   selection_ = range;

@@ -54,6 +54,9 @@ class TextSurface : public Control {
   // fractions are rounded to the nearest whole number.
   void SelectSpan(double start, double end);
 
+  // Takes the underline off every character but the first, and puts the caret at 0.
+  void ClearUnderlines();
+
   // What selecting each range and writing to it would do, but for the selection. The ranges must
   // lie inside the text, in order and apart.
   void Format(const std::vector<Range>& ranges, const AttributeChange& change);

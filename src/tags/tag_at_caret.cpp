@@ -1,0 +1,58 @@
+#include "tags/tag_at_caret.h"
+
+#include <optional>
+
+#include "tags/tag_editor.h"
+#include "tags/tag_record.h"
+#include "text/numbers.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+// The index of its line. A line that cannot be cut holds the caret at 0.
+std::optional<int> FindTagAt(const Form1& form, Position caret) {
+  if (!form.PostFrame.Visible || form.RichTextBox1.Text() == U" ") return std::nullopt;
+  const auto at = static_cast<double>(caret);
+  for (int i = 0; i < form.TagList.ListCount(); ++i) {
+    const TagSpan span = CutTagSpan(form.TagList.List(i));
+    if (span.start <= at + 1 && at <= span.end) return i;
+  }
+  return std::nullopt;
+}
+
+void TakeReference(Form1& form, const TagSpan& span) {
+  TextSurface& text = form.RichTextBox1;
+  text.SelectSpan(span.start, span.end);
+  // The whole term, also where the user selected a part of it.
+  form.RefBox.Text = text.SelText();
+  form.RefTagStart.Text = DecimalText(span.start);
+  form.RefTagStop.Text = DecimalText(span.end);
+  text.SelUnderline = true;
+  text.SetFocus();
+  text.SelectSpan(Val(form.StartPosition.Text.Get()), Val(form.EndPosition.Text.Get()));
+}
+
+}  // namespace
+
+void TagChecker_Click(Form1& form) {
+  form.WorkState.CaretPos = form.RichTextBox1.SelStart.Get();
+  ResetTagEditor(form);
+  const std::optional<int> found = FindTagAt(form, form.WorkState.CaretPos);
+  if (!found) return;
+  form.TagList.ListIndex = *found;
+  const TagSpan span = CutTagSpan(form.TagList.List(*found));
+  form.RichTextBox1.SelectSpan(span.start, span.end);
+}
+
+void RefTag_Click(Form1& form) {
+  form.RefBox.Text = form.RichTextBox1.SelText();
+  form.RefTagStart.Text = U" ";
+  form.RefTagStop.Text = U" ";
+  if (const auto found = FindTagAt(form, form.RichTextBox1.SelStart)) {
+    TakeReference(form, CutTagSpan(form.TagList.List(*found)));
+  }
+  ApplyTagEditorRules(form);
+}
+
+}  // namespace quill
