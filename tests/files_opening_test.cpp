@@ -49,12 +49,13 @@ TEST_F(Files, OpensAWorkingCopy) {
   EXPECT_EQ(State(),
             "Quillorandix v 1.07 processing x.tbf; base x.tbf; tags x.tlf; dictionary x.spd; "
             "PreFrame Frame5 mnuProcess");
-  EXPECT_TRUE(text.Text() == U"a copy");
+  EXPECT_EQ(text.Text(), U"a copy");
   EXPECT_EQ(disk.files["x.spd"], "");
-  EXPECT_TRUE(form.TagList.Items() == (std::vector<u32string>{U"one", U"", U"three"}));
-  EXPECT_TRUE(form.User_Dialogue.Text == PreProcessIntro());
-  EXPECT_TRUE(form.AMarkedString.Text == U"" && form.TaggedString.Text == U"");
-  EXPECT_TRUE(form.StartPosition.Text == U"Start");
+  EXPECT_EQ(form.TagList.Items(), (std::vector<u32string>{U"one", U"", U"three"}));
+  EXPECT_EQ(form.User_Dialogue.Text, PreProcessIntro());
+  EXPECT_EQ(form.AMarkedString.Text, U"");
+  EXPECT_EQ(form.TaggedString.Text, U"");
+  EXPECT_EQ(form.StartPosition.Text, U"Start");
   EXPECT_FALSE(form.ClassCombo.Enabled);
   EXPECT_FALSE(form.Infoframe.Visible);
   EXPECT_FALSE(form.mnuDialogue_on.Enabled);
@@ -64,18 +65,18 @@ TEST_F(Files, OpensAWorkingCopy) {
 TEST_F(Files, ShowsTheDialogsAsTheyAreWorded) {
   Open({u32string(U"x.rtf"), Proposed()});
   ASSERT_EQ(dialogs.shown.size(), 2U);
-  EXPECT_TRUE(dialogs.shown[0].title == U"Load existing *.tbf-file or new *.rtf-file for tagging");
-  EXPECT_TRUE(dialogs.shown[0].filter ==
-              U" tbf-files(*.tbf)| *.tbf| rtf-files (*.rtf)| *.rtf| All files (*.*)|*.*");
-  EXPECT_TRUE(dialogs.shown[1].title == U"Create and save a *.tbf working copy of the input file");
-  EXPECT_TRUE(dialogs.shown[1].filter == U"Tagged TextBaseFiles(*.tbf)|*.tbf");
-  EXPECT_TRUE(dialogs.shown[1].proposed == U"x.tbf");
+  EXPECT_EQ(dialogs.shown[0].title, U"Load existing *.tbf-file or new *.rtf-file for tagging");
+  EXPECT_EQ(dialogs.shown[0].filter,
+            U" tbf-files(*.tbf)| *.tbf| rtf-files (*.rtf)| *.rtf| All files (*.*)|*.*");
+  EXPECT_EQ(dialogs.shown[1].title, U"Create and save a *.tbf working copy of the input file");
+  EXPECT_EQ(dialogs.shown[1].filter, U"Tagged TextBaseFiles(*.tbf)|*.tbf");
+  EXPECT_EQ(dialogs.shown[1].proposed, U"x.tbf");
   dialogs.answers = {Proposed()};
   program.Click(form.mnuFileSave);
-  EXPECT_TRUE(dialogs.shown[2].title == U"Save your tagged *.tbf-file");
-  EXPECT_TRUE(dialogs.shown[2].filter == U"Tagged TextBaseFiles(*.tbf)|*.tbf");
-  EXPECT_TRUE(dialogs.shown[2].proposed == U"x.tbf");
-  EXPECT_TRUE(form.Caption == U"Quillorandix v1.05 ----- saved files x.tbf + x.tlf");
+  EXPECT_EQ(dialogs.shown[2].title, U"Save your tagged *.tbf-file");
+  EXPECT_EQ(dialogs.shown[2].filter, U"Tagged TextBaseFiles(*.tbf)|*.tbf");
+  EXPECT_EQ(dialogs.shown[2].proposed, U"x.tbf");
+  EXPECT_EQ(form.Caption, U"Quillorandix v1.05 ----- saved files x.tbf + x.tlf");
 }
 
 TEST_F(Files, MakesAWorkingCopyOfANewText) {
@@ -88,9 +89,9 @@ TEST_F(Files, MakesAWorkingCopyOfANewText) {
   EXPECT_EQ(disk.files["other.tlf"], "");
   EXPECT_FALSE(disk.Has("other.spd"));
   EXPECT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_TRUE(form.User_Dialogue.Text == ProcessGuidance());
+  EXPECT_EQ(form.User_Dialogue.Text, ProcessGuidance());
   Open({u32string(U"other.tbf")});
-  EXPECT_TRUE(text.Text() == U"old text");
+  EXPECT_EQ(text.Text(), U"old text");
 }
 
 TEST_F(Files, EndsEarlyAsTheUserOrTheDiskWants) {
@@ -176,8 +177,8 @@ TEST_F(Files, EndsEarlyAsTheUserOrTheDiskWants) {
     std::string expected = row.state;
     if (expected.starts_with("START")) expected.replace(0, 5, start);
     EXPECT_EQ(bench.State(), expected) << row.about;
-    EXPECT_TRUE(bench.text.Text() == row.text) << row.about;
-    EXPECT_TRUE(bench.form.User_Dialogue.Text == row.guidance) << row.about;
+    EXPECT_EQ(bench.text.Text(), row.text) << row.about;
+    EXPECT_EQ(bench.form.User_Dialogue.Text, row.guidance) << row.about;
     EXPECT_EQ(bench.form.TagList.ListCount(), 0) << row.about;
     EXPECT_FALSE(bench.disk.Has("y.tbf")) << row.about;
   }
@@ -197,7 +198,7 @@ TEST_F(Files, CutsFourCharactersWhateverTheyAre) {
     bench.disk.files[EncodePath(row.path)] = "text";
     bench.Open({u32string(row.path), Cancel()});
     ASSERT_EQ(bench.dialogs.shown.size(), 2U);
-    EXPECT_TRUE(bench.dialogs.shown[1].proposed == row.proposed);
+    EXPECT_EQ(bench.dialogs.shown[1].proposed, row.proposed);
     EXPECT_TRUE(bench.disk.Has(row.tagList)) << row.tagList;
   }
 }
@@ -220,7 +221,7 @@ TEST_F(Files, SavesUnderAnotherNameWithATagListOfItsOwn) {
   EXPECT_EQ(disk.files["y.tlf"], "");
   EXPECT_EQ(disk.files["x.tlf"], "a tag\r\n");
   EXPECT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_TRUE(form.User_Dialogue.Text == ProcessGuidance());
+  EXPECT_EQ(form.User_Dialogue.Text, ProcessGuidance());
 }
 
 TEST_F(Files, SaveTellsTheUserOfAFailure) {
@@ -238,8 +239,8 @@ TEST_F(Files, SaveTellsTheUserOfAFailure) {
     bench.program.Click(bench.form.mnuFileSave);
     const Shown& box = bench.dialogs.shown.back();
     EXPECT_EQ(box.dialog, "MsgBox");
-    EXPECT_TRUE(box.box.prompt == U"The text could not be saved to y.tbf.");
-    EXPECT_TRUE(box.title == U"Save failed");
+    EXPECT_EQ(box.box.prompt, U"The text could not be saved to y.tbf.");
+    EXPECT_EQ(box.title, U"Save failed");
     EXPECT_EQ(box.box.icon, MessageBox::Icon::kCritical);
     EXPECT_FALSE(bench.disk.Has("y.tbf"));
     EXPECT_EQ(bench.form.User_Dialogue.Text == ProcessGuidance(), row.guidance);
@@ -273,7 +274,7 @@ TEST_F(Files, ExitSavesAndEndsTheProgram) {
   dialogs.answers = {u32string(U"y.tbf")};
   program.Click(form.mnuFileClose);
   EXPECT_TRUE(disk.Has("y.tbf") && disk.Has("y.tlf"));
-  EXPECT_TRUE(form.Caption == U"Quillorandix v1.05 ----- saved files y.tbf + y.tlf");
+  EXPECT_EQ(form.Caption, U"Quillorandix v1.05 ----- saved files y.tbf + y.tlf");
   EXPECT_TRUE(program.Ended());
 }
 
@@ -283,7 +284,7 @@ TEST_F(Files, ExitEndsTheProgramAlsoWhereNothingCouldBeSaved) {
   disk.Refuse(DiskCall::kReplace, "none.tbf");
   dialogs.answers = {Proposed()};
   program.Click(form.mnuFileClose);
-  EXPECT_TRUE(form.Caption == U"Quillorandix v1.05 ----- saved files none.tbf + none.tlf");
+  EXPECT_EQ(form.Caption, U"Quillorandix v1.05 ----- saved files none.tbf + none.tlf");
   EXPECT_TRUE(program.Ended());
   EXPECT_EQ(dialogs.shown.size(), 2U);
 }
@@ -308,7 +309,7 @@ TEST(TextLines, TakeEveryLineEndAndEveryOldFile) {
       {"nothing but a byte order mark", "\xEF\xBB\xBF", {}},
       {"each line by itself", "\xC3\xA4\n\xE4\x80\n", {U"ä", U"ä€"}},
   };
-  for (const Row& row : rows) EXPECT_TRUE(DecodeLines(row.bytes) == row.lines) << row.about;
+  for (const Row& row : rows) EXPECT_EQ(DecodeLines(row.bytes), row.lines) << row.about;
 }
 
 TEST(TextLines, WriteAParagraphEndAsALineEnd) {

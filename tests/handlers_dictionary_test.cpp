@@ -30,9 +30,9 @@ struct DictionaryPanel : testing::Test, Workbench {
   }
   void ExpectReset() const {
     EXPECT_EQ(Open(), "");
-    EXPECT_TRUE(form.add_to_dictionary.Text == U"Lemma?");
-    EXPECT_TRUE(form.Text2.Text == U"Definition?");
-    EXPECT_TRUE(form.operator_category.Text == U" ");
+    EXPECT_EQ(form.add_to_dictionary.Text, U"Lemma?");
+    EXPECT_EQ(form.Text2.Text, U"Definition?");
+    EXPECT_EQ(form.operator_category.Text, U" ");
   }
 };
 
@@ -58,8 +58,8 @@ TEST(OperatorEntry, HasTwoForms) {
        U"a\\                 \\A< d e\u2028f g >"},
   };
   for (const auto& row : table) {
-    EXPECT_TRUE(ListForm(row.entry) == row.list);
-    EXPECT_TRUE(FileForm(row.entry) == row.file);
+    EXPECT_EQ(ListForm(row.entry), row.list);
+    EXPECT_EQ(FileForm(row.entry), row.file);
   }
 }
 
@@ -71,9 +71,9 @@ TEST_F(DictionaryPanel, ReservedCharactersAreRefused) {
     program.Click(form.Add_to_spec_dict);
     // The box has the focus again and is empty: its GotFocus comes last.
     EXPECT_EQ(form.Focus(), &form.add_to_dictionary);
-    EXPECT_TRUE(form.add_to_dictionary.Text == U" ");
-    EXPECT_TRUE(form.add_to_dictionary.BackColor == kWindowBackground);
-    EXPECT_TRUE(form.Text2.Text == U"Definition?");
+    EXPECT_EQ(form.add_to_dictionary.Text, U" ");
+    EXPECT_EQ(form.add_to_dictionary.BackColor, kWindowBackground);
+    EXPECT_EQ(form.Text2.Text, U"Definition?");
     EXPECT_EQ(Open(), "ABF");
   }
   EXPECT_EQ(dialogs.shown.size(), 4U);

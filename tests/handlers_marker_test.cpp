@@ -13,7 +13,7 @@ TEST_F(ManualMarker, ATermComesBackAsItWasWhateverItsCharacters) {
   ShowText(term, std::string(term.size(), '.'));
   program.Select(0, text.Length());
   program.Click(form.DefAMarker);
-  EXPECT_TRUE(form.AMarkedString.Text == term);
+  EXPECT_EQ(form.AMarkedString.Text, term);
   program.Click(form.AMarkSet);
   EXPECT_EQ(text.Text(), term);
   EXPECT_EQ(Drawing(text), std::string(term.size(), 'a'));

@@ -38,9 +38,9 @@ struct ParsingList : testing::Test, Workbench {
 TEST_F(ParsingList, ReadsAnyLineEndAndBothCodePages) {
   Read("\xEF\xBB\xBFzuletzt\\\r\ndann\\\rsp\xC3\xA4ter\\\n\nsp\xE4t\\");
   EXPECT_EQ(Items(), U";dann\\;spät\\;später\\;zuletzt\\;");
-  EXPECT_TRUE(form.User_Dialogue.Text ==
-              U"The temporal operators unique to the current text base "
-              U"file have been added to the parsing list.");
+  EXPECT_EQ(form.User_Dialogue.Text,
+            U"The temporal operators unique to the current text base "
+            U"file have been added to the parsing list.");
   // A second reading adds them again, beside the first.
   Read("dann\\");
   EXPECT_EQ(Items(), U";dann\\;dann\\;spät\\;später\\;zuletzt\\;");
@@ -54,19 +54,19 @@ TEST_F(ParsingList, ADictionaryThatCannotBeReadIsTold) {
   EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
   // The deselection was an event: the searches would find nothing.
   EXPECT_EQ(form.WorkState.ParseIndex.Get(), -1);
-  EXPECT_TRUE(form.User_Dialogue.Text ==
-              U"There is no global dictionary yet: it is made when the "
-              U"first term is added to it.");
+  EXPECT_EQ(form.User_Dialogue.Text,
+            U"There is no global dictionary yet: it is made when the "
+            U"first term is added to it.");
   disk.Refuse(DiskCall::kRead, "road.spd");
   program.Click(form.Add_specific_parsing_list);
-  EXPECT_TRUE(form.User_Dialogue.Text == U"The dictionary of this text could not be read.");
+  EXPECT_EQ(form.User_Dialogue.Text, U"The dictionary of this text could not be read.");
 
   disk.files["globaldict.gdf"] = "";
   program.Click(form.Add_global_parsing_list);
   EXPECT_EQ(Items(), U"a;b;");
-  EXPECT_TRUE(form.User_Dialogue.Text ==
-              U"The pre-defined global temporal operator terms have "
-              U"been added to the parsing list.");
+  EXPECT_EQ(form.User_Dialogue.Text,
+            U"The pre-defined global temporal operator terms have "
+            U"been added to the parsing list.");
 }
 
 TEST_F(ParsingList, ReadingInOneGoIsAddingOneByOne) {
@@ -99,8 +99,8 @@ TEST_F(ParsingList, AFullListTakesNoMore) {
   Read("c\\\na\\\n");
   ASSERT_EQ(form.Parse_listbox.ListCount(), ListBox::kMostItems);
   // One after the other: the first found room.
-  EXPECT_TRUE(form.Parse_listbox.Items().back() == U"c\\");
-  EXPECT_TRUE(form.Parse_listbox.Items().front() == U"b\\");
+  EXPECT_EQ(form.Parse_listbox.Items().back(), U"c\\");
+  EXPECT_EQ(form.Parse_listbox.Items().front(), U"b\\");
 }
 
 // Every line an entry in file form, and none twice.
@@ -121,7 +121,7 @@ TEST_F(ParsingList, TheExampleDictionaryIsWellFormed) {
     const std::u32string definition = item.substr(opening + 2, item.size() - opening - 4);
     const OperatorEntry entry{std::u32string(*parts.Lemma), std::u32string(parts.Category),
                               definition};
-    EXPECT_TRUE(FileForm(entry) == item) << ToUtf8(item);
+    EXPECT_EQ(FileForm(entry), item) << ToUtf8(item);
     EXPECT_NE(bytes.find(ToUtf8(item) + "\r\n"), std::string::npos) << ToUtf8(item);
   }
 }

@@ -13,9 +13,25 @@ namespace {
 
 std::u32string Line(int start, int end, const char32_t* term,
                     const char32_t* operatorText = U"a_operator") {
-  return ComposeTag(TagFields{U"1", DecimalText(start), DecimalText(end), term, U"S", U"U",
-                              U"lexematic", operatorText, U"absolute ", U"at", U"d ", U"6",
-                              U"Reference Tag", U" ", U" "});
+  const std::u32string first = DecimalText(start);
+  const std::u32string last = DecimalText(end);
+  TagFields fields;
+  fields[TagField::kId] = U"1";
+  fields[TagField::kStart] = first;
+  fields[TagField::kEnd] = last;
+  fields[TagField::kTerm] = term;
+  fields[TagField::kSessionId] = U"S";
+  fields[TagField::kUserId] = U"U";
+  fields[TagField::kClass] = U"lexematic";
+  fields[TagField::kOperator] = operatorText;
+  fields[TagField::kMode] = U"absolute ";
+  fields[TagField::kType] = U"at";
+  fields[TagField::kGranularity] = U"d ";
+  fields[TagField::kValue] = U"6";
+  fields[TagField::kRefTerm] = U"Reference Tag";
+  fields[TagField::kRefStart] = U" ";
+  fields[TagField::kRefStop] = U" ";
+  return ComposeTag(fields);
 }
 
 struct TagFlows : testing::Test, Workbench {
@@ -104,7 +120,7 @@ TEST_F(TagFlows, WhatALineShowsInTheText) {
     EXPECT_EQ(text.Selection(), row.selection) << row.about;
     EXPECT_EQ(form.RefFrame.Visible.Get(), row.refFrame) << row.about;
     EXPECT_EQ(ToUtf8(form.RefTagStart.Text.Get()), ToUtf8(row.refStart)) << row.about;
-    EXPECT_TRUE(form.TaggedString.Text == row.line) << row.about;
+    EXPECT_EQ(form.TaggedString.Text, row.line) << row.about;
     EXPECT_EQ(form.TagList.ListIndex, 0) << row.about;
   }
 }
@@ -113,7 +129,7 @@ TEST_F(TagFlows, NoLineSelectedIsNoTag) {
   Fill({Line(1, 3, U"one")});
   program.ClickItem(form.TagList, 0);
   form.TagList.ListIndex = -1;
-  EXPECT_TRUE(form.marked_term.Text == U"one");
+  EXPECT_EQ(form.marked_term.Text, U"one");
 }
 
 // --- The caret -------------------------------------------------------------------------------
@@ -161,9 +177,9 @@ TEST_F(TagFlows, TheCheckFindsTheFirstLineAtTheCaret) {
     EXPECT_EQ(form.WorkState.CaretPos.Get(), before.begin);
     EXPECT_EQ(form.TagList.ListIndex, row.found);
     if (row.found >= 0) {
-      EXPECT_TRUE(form.TaggedString.Text == form.TagList.List(row.found));
+      EXPECT_EQ(form.TaggedString.Text, form.TagList.List(row.found));
     } else {
-      EXPECT_TRUE(form.TaggedString.Text == U" ");
+      EXPECT_EQ(form.TaggedString.Text, U" ");
       EXPECT_EQ(text.Selection(), before);
     }
   }
@@ -182,12 +198,13 @@ TEST_F(TagFlows, TheReferenceIsTheFirstLineAtTheCaret) {
     EXPECT_EQ(form.TagList.ListIndex, -1);
     if (row.found >= 0) {
       const TagSpan span = CutTagSpan(row.lines[static_cast<std::size_t>(row.found)]);
-      EXPECT_TRUE(form.RefTagStart.Text == DecimalText(span.start));
-      EXPECT_TRUE(form.RefTagStop.Text == DecimalText(span.end));
-      EXPECT_TRUE(text.SelText() == U"two");
+      EXPECT_EQ(form.RefTagStart.Text, DecimalText(span.start));
+      EXPECT_EQ(form.RefTagStop.Text, DecimalText(span.end));
+      EXPECT_EQ(text.SelText(), U"two");
     } else {
-      EXPECT_TRUE(form.RefBox.Text == selected);
-      EXPECT_TRUE(form.RefTagStart.Text == U" " && form.RefTagStop.Text == U" ");
+      EXPECT_EQ(form.RefBox.Text, selected);
+      EXPECT_EQ(form.RefTagStart.Text, U" ");
+      EXPECT_EQ(form.RefTagStop.Text, U" ");
       EXPECT_EQ(text.Selection(), before);
     }
   }
@@ -200,7 +217,7 @@ TEST_F(TagFlows, NothingIsFoundOutsidePostProcessingOrInAnEmptyText) {
     EXPECT_EQ(form.TagList.ListIndex, -1);
     form.RefTagStart.Text = U"4";
     RefTag_Click(form);
-    EXPECT_TRUE(form.RefTagStart.Text == U" ");
+    EXPECT_EQ(form.RefTagStart.Text, U" ");
   };
   form.PostFrame.Visible = false;
   expectNothing();
@@ -265,11 +282,11 @@ TEST_F(TagFlows, RemovalLooksForTheSameWord) {
     EXPECT_EQ(form.TagList.ListCount(), static_cast<int>(row.lines.size()) - 1);
     EXPECT_EQ(form.TagList.ListIndex, row.other);
     EXPECT_EQ(Drawing(text), row.drawing);
-    EXPECT_TRUE(form.WorkState.CurrentTag ==
-                (row.other >= 0 ? form.TagList.List(row.other)
-                                : row.lines[static_cast<std::size_t>(row.removed)]));
-    EXPECT_TRUE(form.TaggedString.Text ==
-                (row.other >= 0 ? form.TagList.List(row.other) : std::u32string(U" ")));
+    EXPECT_EQ(form.WorkState.CurrentTag, row.other >= 0
+                                             ? form.TagList.List(row.other)
+                                             : row.lines[static_cast<std::size_t>(row.removed)]);
+    EXPECT_EQ(form.TaggedString.Text,
+              row.other >= 0 ? form.TagList.List(row.other) : std::u32string(U" "));
   }
 }
 

@@ -31,7 +31,7 @@ TEST_F(TagGeneration, CarriesOnWhereTheFileCannotBeWritten) {
   EXPECT_EQ(Drawing(text), "B...aaa.....b");
   EXPECT_EQ(text.Selection(), (Range{0, 0}));
   EXPECT_FALSE(form.User_Dialogue.Text == ProcessGuidance());
-  EXPECT_TRUE(form.WorkState.TagListFile == U"x.tlf");
+  EXPECT_EQ(form.WorkState.TagListFile, U"x.tlf");
 }
 
 }  // namespace

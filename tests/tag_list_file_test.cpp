@@ -29,7 +29,7 @@ struct TagListRewriting : testing::Test, Workbench {
 
 TEST_F(TagListRewriting, FollowsTheList) {
   Take(1);
-  EXPECT_TRUE(form.WorkState.CurrentTag == U"b");
+  EXPECT_EQ(form.WorkState.CurrentTag, U"b");
   RewriteTagListFile(form);
   EXPECT_EQ(disk.files["x.tlf"], "a\r\nc\r\n");
   form.TagList.ListIndex = 0;

@@ -16,12 +16,12 @@ TEST(TagRecord, IsComposedAndCutToTheCharacter) {
   const TagFields fields = {U"1",       U"412",       U"415",           U"1914",      U"Session-ID",
                             U"User-ID", U"lexematic", U"b_operator",    U"absolute ", U"at",
                             U"year ",   U"1914",      U"Reference Tag", U" ",         U" "};
-  EXPECT_TRUE(ComposeTag(fields) == kAbsolute);
+  EXPECT_EQ(ComposeTag(fields), kAbsolute);
   const TagFields cut = CutTag(kAbsolute);
   for (std::size_t i = 0; i < TagField::kRefStop; ++i)
-    EXPECT_TRUE(cut[i] == fields[i]) << "field " << i + 1;
+    EXPECT_EQ(ToUtf8(cut[i]), ToUtf8(fields[i])) << "field " << i + 1;
   // The blank of the closing " )" belongs to the last field as it is cut.
-  EXPECT_TRUE(cut[TagField::kRefStop] == U"  ");
+  EXPECT_EQ(cut[TagField::kRefStop], U"  ");
 }
 
 struct CutRow {

@@ -10,6 +10,7 @@
 
 #include "program/program.h"
 #include "support/fakes.h"
+#include "support/printers.h"
 
 namespace quill::test {
 
