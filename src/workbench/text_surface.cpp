@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -30,6 +31,8 @@ std::optional<T> SelectionValue(const TextSurface& surface, T Attributes::*attri
   if (surface.Selection().Length() == 0) return surface.TypingAttributes().*attribute;
   return Common(surface.Doc(), surface.Selection(), attribute);
 }
+
+std::size_t HashOf(std::string_view bytes) { return std::hash<std::string_view>()(bytes); }
 
 AttributeChange AllOf(const Attributes& attributes) {
   return {attributes.colour, attributes.bold, attributes.underline, attributes.offset};
@@ -124,15 +127,34 @@ Position TextSurface::FindOtherColour(Position from, Colour colour) const {
 }
 
 void TextSurface::LoadFile(const std::u32string& path) {
-  std::optional<Document> read = rtf::Read(Form().TheDisk().Read(EncodePath(path)));
+  std::string bytes = Form().TheDisk().Read(EncodePath(path));
+  const std::size_t content = HashOf(bytes);
+  std::optional<Document> read = rtf::Read(std::move(bytes));
   if (!read) throw StatementFailed("the file is no text: " + EncodePath(path));
   SetDocument(std::move(*read));
   filePath_ = path;
+  sourcePath_ = path;
+  fileContent_ = content;
 }
 
 void TextSurface::SaveFile(const std::u32string& path) {
-  Form().TheDisk().Replace(EncodePath(path), rtf::Write(document_));
+  const std::string name = EncodePath(path);
+  const std::string bytes = rtf::Write(document_);
+  if (IsChangedByOthers(name, bytes)) {
+    Form().TheDisk().ReplaceKeepingOld(name, bytes);
+  } else {
+    Form().TheDisk().Replace(name, bytes);
+  }
   filePath_ = path;
+  fileContent_ = HashOf(bytes);
+}
+
+// By content: times and sizes of files can be the same before and after a change.
+bool TextSurface::IsChangedByOthers(const std::string& path, std::string_view bytes) const {
+  Disk& disk = Form().TheDisk();
+  if (!disk.IsOneFile(path, EncodePath(filePath_))) return false;
+  const std::string there = disk.Read(path);
+  return HashOf(there) != fileContent_ && there != bytes;
 }
 
 void TextSurface::SetDocument(Document document) {
