@@ -57,6 +57,7 @@ void ShowRun(Form1& form) {
   form.marked_term.Text = text.SelText();
   text.SelUnderline = true;
   text.SetFocus();
+  text.Reveal();
 }
 
 }  // namespace
@@ -76,6 +77,7 @@ void FindBMarker_Click(Form1& form) {
 void Restart_PP_Click(Form1& form) {
   ResetTagEditor(form);
   form.RichTextBox1.SelStart = 1;
+  form.RichTextBox1.Reveal();
   form.WorkState.TagEnd = 1;
   ApplyTagEditorRules(form);
 }

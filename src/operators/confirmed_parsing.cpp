@@ -16,6 +16,7 @@ bool Confirmed(Form1& form) {
   text.SelColor = RGB(192, 0, 192);
   text.SelUnderline = true;
   text.SelBold = true;
+  text.Reveal();
   return form.MsgBox(U"Mark this word?", kExclamationYesNo, U"Confirm markup") == kYes;
 }
 

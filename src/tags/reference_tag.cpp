@@ -30,6 +30,7 @@ void FindReferenceTag(Form1& form) {
   form.RichTextBox1.SetFocus();
   form.RichTextBox1.SelectSpan(Val(form.StartPosition.Text.Get()),
                                Val(form.EndPosition.Text.Get()));
+  form.RichTextBox1.Reveal();
 }
 
 }  // namespace quill

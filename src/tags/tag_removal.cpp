@@ -50,6 +50,8 @@ void RemoveItem_Click(Form1& form) {
     MakePlain(form.RichTextBox1, removed);
     ResetTagEditor(form);
   }
+  // The reader goes on where the tag was removed, also where another one is selected now.
+  form.RichTextBox1.LeaveView();
   constexpr int kOkCancelQuestion = 33;
   constexpr int kOk = 1;
   if (form.MsgBox(U"Do you want to save this change?", kOkCancelQuestion, U"Input required") !=

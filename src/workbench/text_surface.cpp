@@ -157,6 +157,10 @@ bool TextSurface::IsChangedByOthers(const std::string& path, std::string_view by
   return HashOf(there) != fileContent_ && there != bytes;
 }
 
+void TextSurface::Reveal() { Form().TheWatcher().RevealAsked(true); }
+
+void TextSurface::LeaveView() { Form().TheWatcher().RevealAsked(false); }
+
 void TextSurface::SetDocument(Document document) {
   document_ = std::move(document);
   history_.Clear();
@@ -199,6 +203,7 @@ void TextSurface::TypeOver(std::u32string_view text) {
   Format({{over.begin, caret}}, AllOf(attributes));
   remembered_ = {};
   Select({caret, caret});
+  Reveal();
 }
 
 void TextSurface::UserDeletes(Range range) {
@@ -208,6 +213,7 @@ void TextSurface::UserDeletes(Range range) {
   history_.Add(std::move(edit));
   remembered_ = {};
   Select({range.begin, range.begin});
+  Reveal();
 }
 
 void TextSurface::Undo() {
@@ -226,6 +232,7 @@ void TextSurface::Exchange(Edit& edit) {
   Form().TheWatcher().TextReplaced(edit.at, range.Length(), edit.inserted);
   remembered_ = {};
   Select({edit.at + edit.inserted, edit.at + edit.inserted});
+  Reveal();
 }
 
 }  // namespace quill

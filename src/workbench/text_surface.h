@@ -74,6 +74,12 @@ class TextSurface : public Control {
   const std::u32string& SourcePath() const { return sourcePath_; }
   void Refresh() {}
 
+  // Whether the reader is to see the selection when the action ends or a dialog opens: scrolled
+  // into sight where it is out of it. The last call decides; keys that change the text ask for it,
+  // too.
+  void Reveal();
+  void LeaveView();
+
   // The first position in [from, text's end) of a character that has, or lacks, a colour; the
   // text's length where there is none.
   Position FindColour(Position from, Colour colour) const;
