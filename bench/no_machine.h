@@ -32,6 +32,9 @@ class NoDisk : public Disk {
     if (!content_) throw StatementFailed(path + ": benchmarks have no files");
     return *content_;
   }
+  bool IsOneFile(const std::string& /*path*/, const std::string& /*other*/) override {
+    return false;
+  }
   void Replace(const std::string& /*path*/, std::string_view bytes) override { content_ = bytes; }
   void ReplaceKeepingOld(const std::string& path, std::string_view bytes) override {
     Replace(path, bytes);

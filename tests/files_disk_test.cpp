@@ -187,6 +187,17 @@ TEST_F(PosixDiskTest, ClearsWhatACrashLeftAndLeavesWhatAnotherProgramWrites) {
   EXPECT_EQ(Names(), "text.tbf victim ");
 }
 
+TEST_F(PosixDiskTest, KnowsAFileByAnyOfItsNames) {
+  Put("one", "same");
+  Put("two", "same");
+  fs::create_symlink(Path("one"), Path("link"));
+  EXPECT_TRUE(disk.IsOneFile(Path("link"), Path("./one")));
+  for (const char* const other : {"two", "missing"}) {
+    EXPECT_FALSE(disk.IsOneFile(Path("one"), Path(other)));
+    EXPECT_FALSE(disk.IsOneFile(Path(other), Path("one")));
+  }
+}
+
 TEST_F(PosixDiskTest, ReplacesAFileWithTheLongestName) {
   const std::string name(255, 'n');
   disk.Replace(Path(name), "x");

@@ -224,6 +224,42 @@ TEST_F(Files, SavesUnderAnotherNameWithATagListOfItsOwn) {
   EXPECT_EQ(form.User_Dialogue.Text, ProcessGuidance());
 }
 
+TEST(Saving, KeepsAWorkingCopyThatSomebodyElseChanged) {
+  const struct {
+    const char* about;
+    std::optional<std::string> there;  // when the text is saved
+    std::optional<std::string> kept;
+  } kCases[] = {{"nobody did", "a copy", {}},
+                {"of the same length", "b copy", "b copy"},
+                {"emptied", "", ""},
+                {"gone", {}, {}}};
+  for (const auto& test : kCases) {
+    SCOPED_TRACE(test.about);
+    FilesBench bench;
+    auto& files = bench.disk.files;
+    bench.Open({u32string(U"x.tbf")});
+    const auto save = [&] {
+      bench.dialogs.answers = {Proposed()};
+      bench.program.Click(bench.form.mnuFileSave);
+    };
+    files.erase("x.tbf");
+    if (test.there) files["x.tbf"] = *test.there;
+    save();
+    EXPECT_EQ(bench.disk.Has("x.tbf~"), test.kept.has_value());
+    if (test.kept) {
+      EXPECT_EQ(files["x.tbf~"], *test.kept);
+    }
+    const std::string saved = files["x.tbf"];
+    EXPECT_TRUE(saved.starts_with("{\\rtf1"));
+    save();
+    EXPECT_EQ(bench.disk.Has("x.tbf~"), test.kept.has_value()) << "it is known by then";
+    files["x.tbf"] = "of a second window";
+    save();
+    EXPECT_EQ(files[test.kept ? "x.tbf~2" : "x.tbf~"], "of a second window");
+    EXPECT_EQ(files["x.tbf"], saved);
+  }
+}
+
 TEST_F(Files, SaveTellsTheUserOfAFailure) {
   struct Row {
     DiskCall call;

@@ -13,6 +13,8 @@ class Disk {
   virtual ~Disk() = default;
 
   virtual std::string Read(const std::string& path) = 0;
+  // Whether two paths lead to one file; false where there is none.
+  virtual bool IsOneFile(const std::string& path, const std::string& other) = 0;
   // All of the new content or all of the old: a failure at any moment leaves the old file whole.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
   // As Replace, and the old content, which must be there, stays beside the file: as PATH~ or, where

@@ -115,6 +115,12 @@ std::string PosixDisk::Read(const std::string& path) {
   return file.ReadAll(kMostBytes);
 }
 
+bool PosixDisk::IsOneFile(const std::string& path, const std::string& other) {
+  struct stat one = {};
+  struct stat two = {};
+  return stat(path.c_str(), &one) == 0 && stat(other.c_str(), &two) == 0 && IsSameFile(one, two);
+}
+
 void PosixDisk::Replace(const std::string& path, std::string_view bytes) {
   if (path.find('\0') != std::string::npos) FailDisk(path, "written", "its name holds a NUL");
   const std::string target = TargetOf(path);

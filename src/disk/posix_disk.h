@@ -14,6 +14,7 @@ class PosixDisk final : public Disk {
  public:
   // Ordinary files only, below 4 GB.
   std::string Read(const std::string& path) override;
+  bool IsOneFile(const std::string& path, const std::string& other) override;
   // Follows links to their target, also one that does not exist yet. Permissions are kept, and the
   // owner where that is allowed; a file without the permission to write is refused.
   void Replace(const std::string& path, std::string_view bytes) override;

@@ -57,6 +57,7 @@ void ShowRun(Form1& form) {
   form.marked_term.Text = text.SelText();
   text.SelUnderline = true;
   text.SetFocus();
+  text.Reveal();
 }
 
 void FindMarkerOf(Form1& form, OperatorKind kind) {
@@ -74,6 +75,7 @@ void FindBMarker_Click(Form1& form) { FindMarkerOf(form, OperatorKind::kB); }
 void Restart_PP_Click(Form1& form) {
   ResetTagEditor(form);
   form.RichTextBox1.SelStart = 1;
+  form.RichTextBox1.Reveal();
   form.WorkState.TagEnd = 1;
   ApplyTagEditorRules(form);
 }

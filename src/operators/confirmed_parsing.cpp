@@ -14,6 +14,7 @@ bool Confirmed(Form1& form) {
   text.SelColor = kAskedAbout;
   text.SelUnderline = true;
   text.SelBold = true;
+  text.Reveal();
   return form.MsgBox({.prompt = U"Mark this word?",
                       .title = U"Confirm markup",
                       .icon = MessageBox::Icon::kExclamation,

@@ -21,8 +21,23 @@ std::optional<int> FindTagAt(const Form1& form, Position caret) {
   return std::nullopt;
 }
 
-void TakeReference(Form1& form, const TagSpan& span) {
+// Shows the tag that holds the caret.
+void FindTagAtCaret(Form1& form) {
+  const std::optional<int> found = FindTagAt(form, form.WorkState.CaretPos);
+  if (!found) return;
+  form.TagList.ListIndex = *found;
+  const TagSpan span = CutTagSpan(form.TagList.List(*found));
+  form.RichTextBox1.SelectSpan(span.start, span.end);
+}
+
+// Takes the tag that holds the caret for the reference of the term being edited.
+void FindReferenceTag(Form1& form) {
+  form.RefTagStart.Text = U" ";
+  form.RefTagStop.Text = U" ";
   TextSurface& text = form.RichTextBox1;
+  const std::optional<int> found = FindTagAt(form, text.SelStart);
+  if (!found) return;
+  const TagSpan span = CutTagSpan(form.TagList.List(*found));
   text.SelectSpan(span.start, span.end);
   // The whole term, also where the user selected a part of it.
   form.RefBox.Text = text.SelText();
@@ -31,6 +46,7 @@ void TakeReference(Form1& form, const TagSpan& span) {
   text.SelUnderline = true;
   text.SetFocus();
   text.SelectSpan(Val(form.StartPosition.Text.Get()), Val(form.EndPosition.Text.Get()));
+  text.Reveal();
 }
 
 }  // namespace
@@ -38,20 +54,12 @@ void TakeReference(Form1& form, const TagSpan& span) {
 void TagChecker_Click(Form1& form) {
   form.WorkState.CaretPos = form.RichTextBox1.SelStart.Get();
   ResetTagEditor(form);
-  const std::optional<int> found = FindTagAt(form, form.WorkState.CaretPos);
-  if (!found) return;
-  form.TagList.ListIndex = *found;
-  const TagSpan span = CutTagSpan(form.TagList.List(*found));
-  form.RichTextBox1.SelectSpan(span.start, span.end);
+  FindTagAtCaret(form);
 }
 
 void RefTag_Click(Form1& form) {
   form.RefBox.Text = form.RichTextBox1.SelText();
-  form.RefTagStart.Text = U" ";
-  form.RefTagStop.Text = U" ";
-  if (const auto found = FindTagAt(form, form.RichTextBox1.SelStart)) {
-    TakeReference(form, CutTagSpan(form.TagList.List(*found)));
-  }
+  FindReferenceTag(form);
   ApplyTagEditorRules(form);
 }
 

@@ -51,6 +51,8 @@ void RemoveItem_Click(Form1& form) {
     MakePlain(form.RichTextBox1, removed);
     ResetTagEditor(form);
   }
+  // The reader goes on where the tag was removed, also where another one is selected now.
+  form.RichTextBox1.LeaveView();
   const Button answer = form.MsgBox({.prompt = U"Do you want to save this change?",
                                      .title = U"Input required",
                                      .icon = MessageBox::Icon::kQuestion,

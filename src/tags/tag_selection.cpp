@@ -53,6 +53,7 @@ void TagList_Click(Form1& form) {
   ShowReference(form, fields);
   form.RichTextBox1.SetFocus();
   form.RichTextBox1.SelectSpan(Val(fields[TagField::kStart]), Val(fields[TagField::kEnd]));
+  form.RichTextBox1.Reveal();
   ApplyTagEditorRules(form);
   form.RemoveItem.Enabled = true;
 }

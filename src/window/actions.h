@@ -18,6 +18,11 @@ class Actions {
   // process with a message, as an exception may not cross the toolkit.
   void Do(const std::function<void(Program&)>& action);
 
+  // A click on a button or a menu item. What reads or writes files or searches the text shows the
+  // waiting cursor.
+  void Click(CommandButton& button);
+  void Click(MenuItem& item);
+
   bool Running() const { return running_; }
   Program& TheProgram() const { return program_; }
 

@@ -19,6 +19,7 @@ bool IsInput(const QEvent& event) {
     case QEvent::KeyRelease:
     case QEvent::InputMethod:
     case QEvent::ContextMenu:
+    case QEvent::Shortcut:
       return true;
     default:
       return false;
@@ -34,6 +35,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     if (!IsInput(*event)) return QApplication::notify(receiver, event);
     // The event may be the receiver's last.
     const QPointer<QWidget> widget = qobject_cast<QWidget*>(receiver);
+    if (widget != nullptr && refuses_ && refuses_(*widget, *event)) return true;
     const bool taken = QApplication::notify(receiver, event);
     if (widget != nullptr && afterInput_) afterInput_(*widget);
     return taken;

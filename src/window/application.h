@@ -19,11 +19,18 @@ class Application final : public QApplication {
   // is done. nullptr ends it.
   void AfterInput(std::function<void(const QWidget&)> read) { afterInput_ = std::move(read); }
 
+  // From now on, events of mouse and keys for which it says so reach no widget and move no focus.
+  // nullptr ends it.
+  void RefuseInput(std::function<bool(const QWidget&, const QEvent&)> refuses) {
+    refuses_ = std::move(refuses);
+  }
+
   // What throws is told on standard error, and counts as an event that was taken.
   bool notify(QObject* receiver, QEvent* event) override;
 
  private:
   std::function<void(const QWidget&)> afterInput_;
+  std::function<bool(const QWidget&, const QEvent&)> refuses_;
 };
 
 }  // namespace quill

@@ -85,9 +85,8 @@ ButtonBinder::ButtonBinder(CommandButton& button, QWidget& container, Actions& a
 ButtonBinder::ButtonBinder(CommandButton& button, QPushButton& widget, Actions& actions)
     : WidgetBinder(button, widget, actions) {
   widget.setText(ToQt(button.Row().text));
-  QObject::connect(&widget, &QPushButton::clicked, &widget, [this, &button] {
-    TheActions().Do([&](Program& program) { program.Click(button); });
-  });
+  QObject::connect(&widget, &QPushButton::clicked, &widget,
+                   [this, &button] { TheActions().Click(button); });
 }
 
 }  // namespace quill

@@ -75,7 +75,14 @@ void DocumentBinder::Show() {
     ShowChanges(changes);
   }
   if (std::exchange(selectionMoved_, false) || changes.loaded || changes.edited) {
-    ShowSelection(changes.edited);
+    view_.ShowSelection();
+  }
+  if (!std::exchange(reveal_, false)) return;
+  if (changes.edited) {
+    view_.ensureCursorVisible();
+  } else {
+    // Also what is selected already: the user may have scrolled it away.
+    view_.Reveal(text_.Selection());
   }
 }
 
@@ -171,16 +178,6 @@ void DocumentBinder::ShowFormats(const std::vector<Range>& ranges) {
     view_.CursorAt(piece.range).setCharFormat(styles_.Character(piece.format));
   }
   if (together) whole.endEditBlock();
-}
-
-void DocumentBinder::ShowSelection(bool edited) {
-  view_.ShowSelection();
-  if (edited) {
-    view_.ensureCursorVisible();
-  } else if (!view_.IsReporting() && (text_.Selection().Length() > 0 || view_.IsInUse())) {
-    // Also what is selected already: the user may have scrolled it away.
-    view_.Reveal(text_.Selection());
-  }
 }
 
 }  // namespace quill

@@ -22,6 +22,7 @@ class DocumentBinder final : public WidgetBinder {
   // Where the window's watcher puts what it is told.
   TextChanges& Changes() { return changes_; }
   void SelectionMoved() { selectionMoved_ = true; }
+  void AskReveal(bool reveal) { reveal_ = reveal; }
 
   void Show() override;
 
@@ -33,7 +34,6 @@ class DocumentBinder final : public WidgetBinder {
   void ShowEdit(const TextChanges::Edit& edit);
   void ShowFormats(const std::vector<Range>& ranges);
   void ShowParagraphs(Range range);
-  void ShowSelection(bool edited);
   std::u32string_view Part(Range range) const;
   // Inserts a range of the text at the cursor.
   void Insert(QTextCursor& cursor, Range range);
@@ -47,6 +47,7 @@ class DocumentBinder final : public WidgetBinder {
   TextChanges changes_;
   TextStyles styles_;
   bool selectionMoved_ = false;
+  bool reveal_ = false;
 };
 
 }  // namespace quill

@@ -201,9 +201,7 @@ void DocumentView::ReportSelection() {
   const QTextCursor cursor = textCursor();
   const Position begin = positions_.ToModel(cursor.selectionStart());
   const Position end = positions_.ToModel(cursor.selectionEnd());
-  reporting_ = true;
   actions_.Do([&](Program& program) { program.Select(begin, end - begin); });
-  reporting_ = false;
   RestartCaret();
 }
 

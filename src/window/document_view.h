@@ -44,8 +44,6 @@ class DocumentView final : public QTextEdit {
   // Scrolls so that a range is seen with some lines around it, clear of the panels that lie over
   // the text; nothing where it is seen so.
   void Reveal(Range range);
-  // Whether the selection that is to be shown is the one that the user makes here.
-  bool IsReporting() const { return reporting_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -113,7 +111,6 @@ class DocumentView final : public QTextEdit {
   int wheel_ = 0;  // how far the wheel turned towards the next step of the zoom
   QBasicTimer blink_;
   bool caretOn_ = false;
-  bool reporting_ = false;
   bool caretIsNoted_ = false;  // the widget's own is elsewhere
   int preeditCaret_ = -1;      // inside the preedit text; -1 without one
 };

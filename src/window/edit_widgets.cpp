@@ -4,12 +4,18 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QTextDocumentFragment>
 #include <limits>
+
+#include "window/cut_text.h"
 
 namespace quill {
 
@@ -25,6 +31,20 @@ bool HasPlainText(const QMimeData& data) { return data.hasText() || data.hasHtml
 LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent) {
   // It would cut at 32,767 characters.
   setMaxLength(std::numeric_limits<int>::max());
+}
+
+bool LineEdit::IsCut() const {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const int room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width();
+  constexpr int kMargins = 4;
+  return fontMetrics().horizontalAdvance(displayText()) > room - kMargins;
+}
+
+bool LineEdit::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !IsCut()) return QLineEdit::event(event);
+  TellWhole(static_cast<const QHelpEvent&>(*event), text(), *this);
+  return true;
 }
 
 void LineEdit::Paste() {
@@ -52,6 +72,13 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event) {
 
 SeveralLinesEdit::SeveralLinesEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
+}
+
+bool SeveralLinesEdit::event(QEvent* event) {
+  const bool isCut = verticalScrollBar()->maximum() > 0 && !verticalScrollBar()->isVisible();
+  if (event->type() != QEvent::ToolTip || !isCut) return QPlainTextEdit::event(event);
+  TellWhole(static_cast<const QHelpEvent&>(*event), toPlainText(), *this);
+  return true;
 }
 
 void SeveralLinesEdit::mousePressEvent(QMouseEvent* event) {

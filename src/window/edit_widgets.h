@@ -1,6 +1,6 @@
 // The widgets that text boxes and combo boxes are typed into. Their characters change by keys,
 // input methods and the context menu: the mouse drags nothing out of them, as a drag could take the
-// characters along.
+// characters along. Text that does not fit is told by a tool tip.
 #pragma once
 
 #include <QLineEdit>
@@ -20,10 +20,12 @@ class LineEdit final : public QLineEdit {
   explicit LineEdit(QWidget* parent);
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  bool IsCut() const;
   void Paste();
 };
 
@@ -32,6 +34,7 @@ class SeveralLinesEdit final : public QPlainTextEdit {
   explicit SeveralLinesEdit(QWidget* parent);
 
  protected:
+  bool event(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
@@ -17,6 +18,7 @@
 #include <utility>
 
 #include "window/appearance.h"
+#include "window/cut_text.h"
 #include "window/shown.h"
 
 namespace quill {
@@ -185,6 +187,11 @@ class ListView : public QListView {
   }
 
  protected:
+  bool viewportEvent(QEvent* event) override {
+    return (event->type() == QEvent::ToolTip && TellCutRow(static_cast<QHelpEvent&>(*event))) ||
+           QListView::viewportEvent(event);
+  }
+
   void mousePressEvent(QMouseEvent* event) override {
     const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
     pressed_ = plain ? RowAt(*event) : -1;
@@ -221,6 +228,14 @@ class ListView : public QListView {
     doItemsLayout();
     horizontalScrollBar()->setValue(left);
     verticalScrollBar()->setValue(top);
+  }
+
+  bool TellCutRow(const QHelpEvent& event) {
+    const QString row = indexAt(event.pos()).data().toString();
+    constexpr int kMargins = 6;
+    if (fontMetrics().horizontalAdvance(row) <= viewport()->width() - kMargins) return false;
+    TellWhole(event, row, *this);
+    return true;
   }
 
   int RowAt(const QMouseEvent& event) const { return indexAt(event.position().toPoint()).row(); }

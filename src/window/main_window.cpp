@@ -5,12 +5,14 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -75,7 +77,8 @@ MainWindow::MainWindow(Program& program)
   StackControls();
   updates_.ShowAll();
   Show();
-  desk_->setFocus();
+  BuildShortcuts();
+  BeginInFirstBox();
   setAcceptDrops(true);
   Application::Instance().installEventFilter(this);
   Application::Instance().AfterInput([this](const QWidget& widget) { ReadBack(widget); });
@@ -133,6 +136,25 @@ void MainWindow::StackControls() {
   for (auto binder = binders_.rbegin(); binder != binders_.rend(); ++binder) {
     if ((*binder)->Widget() != nullptr) (*binder)->Widget()->raise();
   }
+}
+
+// Without a caption: the menus stay as they are.
+void MainWindow::BuildShortcuts() {
+  const auto add = [this](QKeySequence::StandardKey key, auto pressed) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, pressed);
+  };
+  add(QKeySequence::Save, [this] { actions_.Click(form_.mnuFileSave); });
+  add(QKeySequence::Cancel, [this] {
+    actions_.Click(form_.Close_Info.IsInReach() ? form_.Close_Info : form_.CloseIDFrame);
+  });
+}
+
+// The keyboard begins in the panel that is open, and the model hears of it when the user acts.
+void MainWindow::BeginInFirstBox() {
+  lastFocus_ = &form_.UserID1;
+  auto& box = dynamic_cast<QLineEdit&>(WidgetOf(form_.UserID1));
+  box.setFocus();
+  box.selectAll();
 }
 
 QWidget& MainWindow::WidgetOf(const Control& control) const {
@@ -206,7 +228,12 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       return IsMiddleButton(*widget, *event);
     case QEvent::KeyPress:
-      return !actions_.Running() && IsMoveByTab(static_cast<const QKeyEvent&>(*event));
+      if (actions_.Running()) return false;
+      if (IsMoveByTab(static_cast<const QKeyEvent&>(*event))) return true;
+      [[fallthrough]];
+    case QEvent::InputMethod:
+      if (form_.Focus() == nullptr && !actions_.Running()) UserGoesInto(*widget);
+      return false;
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:

@@ -44,6 +44,8 @@ class MainWindow final : public QMainWindow {
   void BuildMarkLabel();
   void BuildControls();
   void StackControls();
+  void BuildShortcuts();
+  void BeginInFirstBox();
   QWidget& WidgetOf(const Control& control) const;
 
   void Show();

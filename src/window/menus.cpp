@@ -37,9 +37,7 @@ std::vector<std::pair<MenuItem*, std::unique_ptr<Binder>>> FillMenuBar(QMenuBar&
   for (Control* const control : form.Controls()) {
     auto* const item = dynamic_cast<MenuItem*>(control);
     if (item == nullptr || item->Row().text.empty()) continue;
-    const auto click = [item, &actions] {
-      actions.Do([&](Program& program) { program.Click(*item); });
-    };
+    const auto click = [item, &actions] { actions.Click(*item); };
     const Control& container = form.ContainerOf(*item);
     QAction* action = nullptr;
     if (&container == &form) {

@@ -78,4 +78,9 @@ void Updates::SelectionChanged() {
   touched_.insert(text_);
 }
 
+void Updates::RevealAsked(bool reveal) {
+  text_->AskReveal(reveal);
+  touched_.insert(text_);
+}
+
 }  // namespace quill

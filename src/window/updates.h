@@ -38,6 +38,7 @@ class Updates final : public Watcher {
   void TextReplaced(Position at, Position removed, Position inserted) override;
   void FormatChanged(Range range) override;
   void SelectionChanged() override;
+  void RevealAsked(bool reveal) override;
   void FocusMoved() override { focusMoved_ = true; }
   void DialogOpens() override { show_(); }
 

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,11 +13,17 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTextEdit>
+#include <QWheelEvent>
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include "disk/text_family.h"
 #include "text/unicode.h"
+#include "window/application.h"
 #include "window/shown.h"
+#include "window/waiting_cursor.h"
 
 namespace quill {
 namespace {
@@ -27,6 +34,17 @@ QString PathToQt(const std::u32string& path) {
 }
 std::u32string PathFromQt(const QString& path) {
   return DecodePath(QFile::encodeName(path).toStdString());
+}
+
+// Also where one is a link to the other, or spelled in another way.
+bool IsOneFile(const QString& path, const QString& other) {
+  const auto native = [](const QString& name) {
+    return std::filesystem::path(QFile::encodeName(name).toStdString());
+  };
+  std::error_code missing;
+  return std::filesystem::equivalent(native(path), native(other), missing) ||
+         QDir::cleanPath(QFileInfo(path).absoluteFilePath()) ==
+             QDir::cleanPath(QFileInfo(other).absoluteFilePath());
 }
 
 // The text of a window and the term selected in it, on the screen.
@@ -50,13 +68,27 @@ std::optional<Asked> AskedIn(const QWidget& window) {
 }
 
 // A question about the selected term that only its buttons answer. It leaves the text free where
-// the screen has room beside it, and at least the term and the lines around it.
+// the screen has room beside it, and at least the term and the lines around it. The wheel scrolls
+// the text meanwhile, which the toolkit grants to no window behind a modal one: so this one only
+// refuses all other input to the window.
 class Question : public QMessageBox {
  public:
   explicit Question(QWidget* parent) : QMessageBox(parent) {
-    setWindowFlag(Qt::WindowCloseButtonHint, false);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setModal(false);
   }
   void reject() override {}
+
+  int exec() override {
+    Application::Instance().RefuseInput(
+        [this](const QWidget& widget, const QEvent& event) { return Refuses(widget, event); });
+    show();
+    QEventLoop loop;
+    connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::DialogExec);
+    Application::Instance().RefuseInput(nullptr);
+    return standardButton(clickedButton());
+  }
 
  protected:
   void showEvent(QShowEvent* event) override {
@@ -73,6 +105,18 @@ class Question : public QMessageBox {
   void closeEvent(QCloseEvent* event) override { event->ignore(); }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+  }
+
+ private:
+  bool Refuses(const QWidget& widget, const QEvent& event) {
+    if (widget.window() != parentWidget()->window()) return false;
+    const bool turns = event.type() == QEvent::Wheel;
+    if (turns && static_cast<const QWheelEvent&>(event).modifiers() == Qt::NoModifier) {
+      const auto* const text = parentWidget()->findChild<QWidget*>(QStringLiteral("RichTextBox1"));
+      return text == nullptr || !text->isAncestorOf(&widget);
+    }
+    if (!turns) activateWindow();
+    return true;
   }
 };
 
@@ -123,6 +167,7 @@ QString WindowDialogs::StartFolder() const {
 std::optional<std::u32string> WindowDialogs::ShowOpen(const std::u32string& title,
                                                       const std::u32string& filter) {
   if (chosen_) return PathFromQt(*std::exchange(chosen_, std::nullopt));
+  const NoWaitingCursor arrow;
   QFileDialog dialog(window_, ToQt(title), StartFolder());
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -134,6 +179,7 @@ std::optional<std::u32string> WindowDialogs::ShowOpen(const std::u32string& titl
 std::optional<std::u32string> WindowDialogs::ShowSave(const std::u32string& title,
                                                       const std::u32string& filter,
                                                       const std::u32string& proposed) {
+  const NoWaitingCursor arrow;
   // Without a name the path would be the folder's own, and its folder the one above.
   QString folder = StartFolder();
   QString name;
@@ -154,16 +200,40 @@ std::optional<std::u32string> WindowDialogs::ShowSave(const std::u32string& titl
       return std::nullopt;
     }
     const QString path = WithExtension(dialog.selectedFiles().front(), dialog.selectedNameFilter());
+    if (IsInput(path)) {
+      RefuseInput();
+      continue;
+    }
     if (MayWrite(path)) return PathFromQt(path);
     folder = QFileInfo(path).absolutePath();
     name = QFileInfo(path).fileName();
   }
 }
 
+bool WindowDialogs::IsInput(const QString& path) const {
+  const std::u32string& source = form_->RichTextBox1.SourcePath();
+  return !source.empty() && !IsWorkingCopy(source) && IsOneFile(path, PathToQt(source));
+}
+
+bool WindowDialogs::IsShownWorkingCopy(const QString& path) const {
+  const std::u32string& shown = form_->RichTextBox1.FilePath();
+  return !shown.empty() && IsWorkingCopy(PathFromQt(path)) && IsOneFile(path, PathToQt(shown));
+}
+
+void WindowDialogs::RefuseInput() {
+  QMessageBox box(window_);
+  constexpr int kExclamation = 48;
+  Run(box, kExclamation,
+      QStringLiteral(
+          "The text came from %1. That file is never written: please choose another name "
+          "for the working copy.")
+          .arg(QFileInfo(PathToQt(form_->RichTextBox1.SourcePath())).fileName()),
+      QStringLiteral("Input file"));
+}
+
 bool WindowDialogs::MayWrite(const QString& path) {
   const QFileInfo file(path);
-  const QFileInfo shown(PathToQt(form_->RichTextBox1.FilePath()));
-  if (!file.exists() || (!shown.filePath().isEmpty() && file == shown)) return true;
+  if (!file.exists() || IsShownWorkingCopy(path)) return true;
   QMessageBox box(window_);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
@@ -173,6 +243,7 @@ bool WindowDialogs::MayWrite(const QString& path) {
 }
 
 Button WindowDialogs::MsgBox(const MessageBox& box) {
+  const NoWaitingCursor arrow;
   const auto run = [&](QMessageBox& shown, QMessageBox::StandardButtons buttons) {
     shown.setStandardButtons(buttons);
     shown.setDefaultButton((buttons & QMessageBox::Yes) != 0 ? QMessageBox::Yes : QMessageBox::Ok);

@@ -18,14 +18,18 @@ class WindowDialogs final : public Dialogs {
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                          const std::u32string& filter) override;
-  // Asks before an existing file is overwritten, unless it is the working copy on show.
+  // Does not take the file that the text came from, unless that is a working copy. Asks before
+  // another file is overwritten, unless it is the working copy on show.
   std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
                                          const std::u32string& proposed) override;
   Button MsgBox(const MessageBox& box) override;
 
  private:
   QString StartFolder() const;
+  bool IsInput(const QString& path) const;
+  bool IsShownWorkingCopy(const QString& path) const;
   bool MayWrite(const QString& path);
+  void RefuseInput();
 
   std::optional<QString> chosen_;
   QWidget* window_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "rtf/reader.h"
 #include "rtf/writer.h"
@@ -30,6 +31,8 @@ std::optional<T> SelectionValue(const TextSurface& surface, T Attributes::*attri
   if (surface.Selection().Length() == 0) return surface.TypingAttributes().*attribute;
   return Common(surface.Doc(), surface.Selection(), attribute);
 }
+
+std::size_t HashOf(std::string_view bytes) { return std::hash<std::string_view>()(bytes); }
 
 AttributeChange AllOf(const Attributes& attributes) {
   return {attributes.colour, attributes.bold, attributes.underline, attributes.offset};
@@ -131,16 +134,39 @@ Position TextSurface::FindOtherColour(Position from, Colour colour) const {
 }
 
 void TextSurface::LoadFile(const std::u32string& path) {
-  std::optional<Document> read = rtf::Read(Form().TheDisk().Read(EncodePath(path)));
+  std::string bytes = Form().TheDisk().Read(EncodePath(path));
+  const std::size_t content = HashOf(bytes);
+  std::optional<Document> read = rtf::Read(std::move(bytes));
   if (!read) throw StatementFailed("the file is no text: " + EncodePath(path));
   SetDocument(std::move(*read));
   filePath_ = path;
+  sourcePath_ = path;
+  fileContent_ = content;
 }
 
 void TextSurface::SaveFile(const std::u32string& path) {
-  Form().TheDisk().Replace(EncodePath(path), rtf::Write(document_));
+  const std::string name = EncodePath(path);
+  const std::string bytes = rtf::Write(document_);
+  if (IsChangedByOthers(name, bytes)) {
+    Form().TheDisk().ReplaceKeepingOld(name, bytes);
+  } else {
+    Form().TheDisk().Replace(name, bytes);
+  }
   filePath_ = path;
+  fileContent_ = HashOf(bytes);
 }
+
+// By content: times and sizes of files can be the same before and after a change.
+bool TextSurface::IsChangedByOthers(const std::string& path, std::string_view bytes) const {
+  Disk& disk = Form().TheDisk();
+  if (!disk.IsOneFile(path, EncodePath(filePath_))) return false;
+  const std::string there = disk.Read(path);
+  return HashOf(there) != fileContent_ && there != bytes;
+}
+
+void TextSurface::Reveal() { Form().TheWatcher().RevealAsked(true); }
+
+void TextSurface::LeaveView() { Form().TheWatcher().RevealAsked(false); }
 
 void TextSurface::SetDocument(Document document) {
   document_ = std::move(document);
@@ -184,6 +210,7 @@ void TextSurface::TypeOver(std::u32string_view text) {
   Format({{over.begin, caret}}, AllOf(attributes));
   remembered_ = {};
   Select({caret, caret});
+  Reveal();
 }
 
 void TextSurface::UserDeletes(Range range) {
@@ -193,6 +220,7 @@ void TextSurface::UserDeletes(Range range) {
   history_.Add(std::move(edit));
   remembered_ = {};
   Select({range.begin, range.begin});
+  Reveal();
 }
 
 void TextSurface::Undo() {
@@ -211,6 +239,7 @@ void TextSurface::Exchange(Edit& edit) {
   Form().TheWatcher().TextReplaced(edit.at, range.Length(), edit.inserted);
   remembered_ = {};
   Select({edit.at + edit.inserted, edit.at + edit.inserted});
+  Reveal();
 }
 
 }  // namespace quill

@@ -5,6 +5,7 @@
 // SelStart or SelLength, also of the value that it has, or a selection by the user forgets them.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -66,10 +67,20 @@ class TextSurface : public Control {
   // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, where
   // the file cannot be read or is no text.
   void LoadFile(const std::u32string& path);
-  // Writes the text as rich text. Fails where the file cannot be written.
+  // Writes the text as rich text. Where the file is the one last loaded or saved and somebody else
+  // has changed it since, what it holds is kept beside it. Fails where the file cannot be written,
+  // or not be kept.
   void SaveFile(const std::u32string& path);
   // The path last loaded from or saved to; empty before.
   const std::u32string& FilePath() const { return filePath_; }
+  // The path that the text came from; empty before.
+  const std::u32string& SourcePath() const { return sourcePath_; }
+
+  // Whether the reader is to see the selection when the action ends or a dialog opens: scrolled
+  // into sight where it is out of it. The last call decides; keys that change the text ask for it,
+  // too.
+  void Reveal();
+  void LeaveView();
 
   // The first position in [from, text's end) of a character that has, or lacks, a colour; the
   // text's length where there is none.
@@ -100,6 +111,7 @@ class TextSurface : public Control {
   void SetDocument(Document document);
 
  private:
+  bool IsChangedByOthers(const std::string& path, std::string_view bytes) const;
   void Select(Range range);
   void Write(const AttributeChange& change);
   // Turns an edit round.
@@ -110,6 +122,8 @@ class TextSurface : public Control {
   AttributeChange remembered_;
   EditHistory history_;
   std::u32string filePath_;
+  std::u32string sourcePath_;
+  std::size_t fileContent_ = 0;  // a hash of what the file held when last loaded or saved
 };
 
 }  // namespace quill

@@ -40,6 +40,8 @@ class Watcher {
   // Attributes of the range changed; every character of it may differ from what was shown.
   virtual void FormatChanged(Range /*range*/) {}
   virtual void SelectionChanged() {}
+  // Whether the selection of the text is to be scrolled into sight; the last word counts.
+  virtual void RevealAsked(bool /*reveal*/) {}
   virtual void FocusMoved() {}
   // A modal dialog is about to open; whatever was written is to be on show behind it.
   virtual void DialogOpens() {}

@@ -37,6 +37,9 @@ class MemoryDisk final : public Disk {
     if (!Has(path)) throw StatementFailed("there is no " + path);
     return files[path];
   }
+  bool IsOneFile(const std::string& path, const std::string& other) override {
+    return path == other && Has(path);
+  }
   void Replace(const std::string& path, std::string_view bytes) override {
     Check(DiskCall::kReplace, path);
     files[path] = bytes;

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include "hands/dialog_hands.h"
 #include "hands/shown_program.h"
 #include "support/fakes.h"
 #include "window/window_dialogs.h"
@@ -32,7 +33,7 @@ class MessageBoxTest : public testing::Test {
   Button Answer(Buttons buttons, Icon icon, std::initializer_list<Qt::Key> keys,
                 const std::function<void(QMessageBox&)>& look = {}) {
     QTimer::singleShot(0, &window, [&] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      auto* const box = qobject_cast<QMessageBox*>(DialogHands::Open());
       ASSERT_NE(box, nullptr);
       if (look) look(*box);
       for (const Qt::Key key : keys) QTest::keyClick(box, key);
@@ -89,7 +90,7 @@ TEST_F(MessageBoxTest, HasRoomForItsTitle) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::TitleFont);
   font.setBold(true);
   QTimer::singleShot(0, &window, [&] {
-    QWidget* const box = QApplication::activeModalWidget();
+    QWidget* const box = DialogHands::Open();
     ASSERT_NE(box, nullptr);
     EXPECT_GT(box->width(), QFontMetrics(font).horizontalAdvance(box->windowTitle()) + 100);
     QTest::keyClick(box, Qt::Key_Return);
@@ -116,7 +117,7 @@ class DialogsTest : public testing::Test, protected ShownProgram<MemoryDisk, Win
   template <class Dialog>
   void AtNext(std::function<void(Dialog&)> look) {
     QTimer::singleShot(0, &window, [look = std::move(look)] {
-      auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      auto* const dialog = qobject_cast<Dialog*>(DialogHands::Open());
       if (dialog != nullptr) return look(*dialog);
       ADD_FAILURE() << "another dialog, or none";
     });
@@ -179,7 +180,7 @@ TEST_F(DialogsTest, TheSaveDialogStartsBesideTheTextAndAsksBeforeItOverwrites) {
   const auto answer = [&](QMessageBox::StandardButton button, std::function<void()> next = {}) {
     return [&, button, next] {
       QTimer::singleShot(50, &window, [&, button, next] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        auto* const box = qobject_cast<QMessageBox*>(DialogHands::Open());
         ASSERT_NE(box, nullptr);
         ++questions;
         EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
@@ -191,13 +192,45 @@ TEST_F(DialogsTest, TheSaveDialogStartsBesideTheTextAndAsksBeforeItOverwrites) {
   EXPECT_EQ(save("other", answer(QMessageBox::Yes)), in("other.tbf").toStdU32String());
   const auto cancelNext = [&] {
     QTimer::singleShot(50, &window, [] {
-      auto* const again = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      auto* const again = qobject_cast<QFileDialog*>(DialogHands::Open());
       ASSERT_NE(again, nullptr) << "a No leads back to the dialog";
       again->reject();
     });
   };
   EXPECT_EQ(save("other", answer(QMessageBox::No, cancelNext)), std::nullopt);
   EXPECT_EQ(questions, 2);
+}
+
+TEST_F(DialogsTest, TheFileThatTheTextCameFromIsNotTaken) {
+  const auto in = [&](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
+  const QString source = in("x.rtf");
+  ASSERT_TRUE(QFile(source).open(QIODevice::WriteOnly));
+  ASSERT_TRUE(QFile::link(source, in("link.tbf")));
+  disk.files[source.toStdString()] = disk.files["x.tbf"];
+  dialogs.ChooseNext(source);
+  int told = 0;
+  // Each name is refused, and the last one taken.
+  std::deque<QString> names{in("x.rtf"), in("./x.rtf"), in("link.tbf"), in("new.tbf")};
+  QTimer hands;
+  QObject::connect(&hands, &QTimer::timeout, [&] {
+    if (auto* const file = qobject_cast<QFileDialog*>(DialogHands::Open())) {
+      if (names.empty()) return file->reject();
+      const QString name = std::exchange(names.front(), {});
+      names.pop_front();
+      EnterPath(*file, name);
+    } else if (auto* const box = qobject_cast<QMessageBox*>(DialogHands::Open())) {
+      told += box->text().contains("x.rtf") && box->text().contains("never written") ? 1 : 0;
+      QTest::keyClick(box, Qt::Key_Return);
+    }
+  });
+  hands.start(5);
+  Choose("mnuFileOpen");
+  EXPECT_EQ(told, 3);
+  EXPECT_EQ(form.RichTextBox1.FilePath(), in("new.tbf").toStdU32String());
+  names = {in("x.rtf"), in("new.tbf")};
+  Choose("mnuFileSave");
+  EXPECT_EQ(told, 4) << "later, too";
+  EXPECT_EQ(disk.files[source.toStdString()], disk.files["x.tbf"]);
 }
 
 TEST_F(DialogsTest, NoOtherActionReachesTheProgramWhileOneIsOpen) {
@@ -208,6 +241,7 @@ TEST_F(DialogsTest, NoOtherActionReachesTheProgramWhileOneIsOpen) {
   Choose("mnuPostProcess");
   AtNext<QMessageBox>([&](QMessageBox& box) {
     EXPECT_EQ(box.windowTitle(), "Input required");
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the program waits for the user";
     const std::u32string text = form.RichTextBox1.Text();
     Choose("mnuPreProcess");
     Choose("mnuFileClose");

@@ -23,13 +23,23 @@ TEST_F(FocusTest, AUserGoesInWithTheMouseOrATab) {
   EXPECT_EQ(form.Text2.Text.Get(), U" a day");
   Press("Text2");
   EXPECT_EQ(form.Text2.Text.Get(), U" a day") << "it had the focus";
-  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  Key(Qt::Key_Tab);
   EXPECT_EQ(FocusName(), "add_to_dictionary");
   EXPECT_EQ(form.add_to_dictionary.Text.Get(), U" ");
-  Key(Qt::Key_Tab);
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(FocusName(), "Text2");
   EXPECT_EQ(form.Text2.Text.Get(), U" ");
   ExpectShown(window, form);
+}
+
+TEST_F(WindowTest, BeginsInTheBoxForTheUserAndTellsNobody) {
+  EXPECT_EQ(FocusName(), "UserID1");
+  EXPECT_EQ(form.Focus(), nullptr);
+  Keys("reader A");
+  EXPECT_EQ(form.UserID1.Text.Get(), U"reader A");
+  EXPECT_EQ(form.Focus(), &form.UserID1);
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(form.Focus(), &form.SessionID);
 }
 
 TEST_F(FocusTest, FocusThatMovesByItselfRaisesNothing) {
@@ -109,19 +119,46 @@ TEST_F(FocusTest, TabFollowsThePanels) {
       EXPECT_EQ(FocusName(), *stop) << "back";
     }
   };
-  expectRound({"DefAMarker", "AMarkReject", "AMarkedString", "add_to_dictionary", "Text2",
-               "A_type_add", "B_type_add", "DefBMarker", "BMarkReject", "BMarkedString",
-               "Add_global_parsing_list", "Add_specific_parsing_list", "Parse_cull",
-               "Deselect_Parse_Cull", "Clear_list", "Parse_listbox", "Parse_1", "Parse_2",
+  for (CommandButton* button : {&form.AMarkSet, &form.BMarkSet, &form.Add_to_spec_dict}) {
+    button->Enabled = true;
+  }
+  expectRound({"DefAMarker",
+               "AMarkReject",
+               "AMarkedString",
+               "AMarkSet",
+               "DefBMarker",
+               "BMarkReject",
+               "BMarkedString",
+               "BMarkSet",
+               "A_type_add",
+               "B_type_add",
+               "Add_to_spec_dict",
+               "Text2",
+               "add_to_dictionary",
+               "Add_global_parsing_list",
+               "Add_specific_parsing_list",
+               "Parse_cull",
+               "Deselect_Parse_Cull",
+               "Clear_list",
+               "Parse_listbox",
+               "Parse_1",
+               "Parse_2",
                "Parse_3"});
   Choose("mnuPostProcess");
   Choose("mnuDialogue_off");
   Choose("mnuDialogue_on");
   form.RefFrame.Visible = true;
+  for (Control* control : std::initializer_list<Control*>{
+           &form.ClassCombo, &form.OperatorCombo, &form.ModeCombo, &form.TypeCombo, &form.GranCombo,
+           &form.ValBox, &form.RefTag, &form.Generate_Tag}) {
+    control->Enabled = true;
+  }
   Choose("mnuUserID");
-  expectRound({"User_Dialogue", "FindAMarker", "FindBMarker", "Restart_PP", "marked_term", "ID",
-               "StartPosition", "EndPosition", "RefBox", "RefTagStart", "RefTagStop", "TagChecker",
-               "TaggedString", "TagList", "UserID1", "SessionID", "CloseIDFrame"});
+  expectRound({"User_Dialogue", "FindAMarker",   "FindBMarker",  "Restart_PP", "marked_term",
+               "ClassCombo",    "OperatorCombo", "ModeCombo",    "TypeCombo",  "GranCombo",
+               "ValBox",        "RefTag",        "Generate_Tag", "ID",         "StartPosition",
+               "EndPosition",   "RefBox",        "RefTagStart",  "RefTagStop", "TagChecker",
+               "TaggedString",  "TagList",       "UserID1",      "SessionID",  "CloseIDFrame"});
 }
 
 TEST_F(FocusTest, TabStopsAtNothingThatIsCovered) {

@@ -91,6 +91,12 @@ TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
     EXPECT_EQ(form.RichTextBox1.SelText(), U"left");
     ExpectTermInSight(box);
     ExpectShown(window, form);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "the wheel would not reach the text";
+    WheelTo(asked == 0 ? form.RichTextBox1.Length() : 0);
+    QTest::mouseClick(&Widget("Text2"), Qt::LeftButton);
+    QTest::keyClick(View().viewport(), Qt::Key_X);
+    EXPECT_EQ(form.Text2.Text.Get(), U"Definition?");
+    ExpectShown(window, form);
     return buttons.at(asked++);
   };
   ClickRow("Parse_listbox", 0);

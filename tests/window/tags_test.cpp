@@ -100,6 +100,35 @@ TEST_F(TagsTest, AReferenceIsFarAwayAndTheTermComesBackIntoView) {
   ExpectShown(window, form);
 }
 
+TEST_F(TagsTest, WhatEndsLeavesTheViewWhereItIs) {
+  OpenTags(TagLine(5, 7, "Later") + TagLine(3619, 3623, "Later"));
+  ClickRow("TagList", 1);
+  QScrollBar& bar = *View().verticalScrollBar();
+  const int there = bar.value();
+  ASSERT_GT(there, 0);
+  Press("Generate_Tag");
+  ASSERT_EQ(form.RichTextBox1.SelStart, 0);
+  EXPECT_EQ(bar.value(), there);
+  dialogs.answers = {1, 1};
+  for (const int row : {1, 0}) {  // with another tag of the same word left, and without
+    ClickRow("TagList", row);
+    bar.setValue(there);
+    Press("RemoveItem");
+    EXPECT_EQ(bar.value(), there);
+  }
+  Press("FindBMarker");
+  ASSERT_EQ(form.EndPosition.Text.Get(), U"End") << "no mark is left";
+  EXPECT_EQ(bar.value(), there);
+  Press("Restart_PP");
+  EXPECT_EQ(bar.value(), 0);
+  bar.setValue(there);
+  Press("RichTextBox1");
+  Key(Qt::Key_Home, Qt::ControlModifier);
+  bar.setValue(there);
+  Keys("x");
+  ExpectSelectionInView();
+}
+
 TEST_F(TagsTest, ALongListFollowsSingleChanges) {
   std::string lines;
   for (int i = 0; i < 1000; ++i) lines += TagLine(5, 7, "line " + std::to_string(i));

@@ -2,8 +2,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QTemporaryFile>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QtTest>
 #include <functional>
 
@@ -187,6 +191,63 @@ TEST_F(ToolkitTest, FormattedTextIsPastedAsPlainText) {
   EXPECT_EQ(form.AMarkedString.Text.Get(), U"two three");
   EXPECT_EQ(form.UserID1.Text.Get(), U"two three");
   ExpectShown(window, form);
+}
+
+TEST_F(ToolkitTest, KeysThatBelongToTheWindow) {
+  OpenText("one");
+  Choose("mnuVLK");
+  Choose("mnuUserID");
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(form.Infoframe.Visible);
+  EXPECT_TRUE(form.IDFrame.Visible);
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(form.IDFrame.Visible);
+  Key(Qt::Key_Escape);
+  ExpectShown(window, form);
+  disk.files.erase("x.tbf");
+  dialogs.answers = {ScriptedDialogs::Proposed{}};
+  Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(disk.Has("x.tbf"));
+}
+
+TEST_F(ToolkitTest, WhatIsCutOffIsToldWhole) {
+  const QString tip = "Click here to insert an A-Marker into the text file";
+  OpenText("one");
+  const std::u32string wide(80, U'w');
+  form.Parse_listbox.AddItem(U"short");
+  form.Parse_listbox.AddItem(wide + U" < & >");
+  form.marked_term.Text = wide;
+  form.TypeCombo.Text = wide;
+  Choose("mnuDialogue_off");
+  const auto told = [&](QWidget& widget, const QPoint& place) {
+    QToolTip::hideText();
+    QHelpEvent event(QEvent::ToolTip, place, widget.mapToGlobal(place));
+    QApplication::sendEvent(&widget, &event);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+  };
+  auto& list = dynamic_cast<QAbstractItemView&>(Widget("Parse_listbox"));
+  const auto row = [&](int index) {
+    return list.visualRect(list.model()->index(index, 0)).topLeft() + QPoint(5, 3);
+  };
+  EXPECT_EQ(told(*list.viewport(), row(1)), ToQt(wide) + " < & >");
+  EXPECT_EQ(told(*list.viewport(), row(0)), ToQt(form.Parse_listbox.Row().stored.toolTip));
+  EXPECT_EQ(told(Widget("AMarkSet"), {5, 5}), tip);
+  Choose("mnuPostProcess");
+  EXPECT_EQ(told(Widget("marked_term"), {5, 5}), ToQt(wide));
+  EXPECT_EQ(told(*Widget("TypeCombo").findChild<QLineEdit*>(), {5, 5}), ToQt(wide));
+  EXPECT_EQ(told(Widget("ID"), {5, 5}), "") << "it is seen whole";
+}
+
+TEST_F(ToolkitTest, TheWaitingCursorShowsBeforeWorkBegins) {
+  Qt::CursorShape shown = Qt::ArrowCursor;
+  dialogs.ask = [&](const auto&...) {
+    if (QApplication::overrideCursor() != nullptr) shown = QApplication::overrideCursor()->shape();
+    return 1;
+  };
+  OpenText("one");
+  Press("Parse_1");
+  EXPECT_EQ(shown, Qt::WaitCursor);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(ToolkitTest, NoFailureLeavesAnEvent) {

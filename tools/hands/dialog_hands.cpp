@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 
 #include "hands/hands.h"
 
@@ -14,9 +15,21 @@ DialogHands::DialogHands() {
   timer_.start(5);
 }
 
+QDialog* DialogHands::Open() {
+  if (QWidget* const modal = QApplication::activeModalWidget()) {
+    return modal->isVisible() ? qobject_cast<QDialog*>(modal) : nullptr;
+  }
+  // A question about the text leaves the wheel to it, and so is not modal to the toolkit.
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && qobject_cast<const QDialog*>(window) != nullptr;
+  });
+  return found != windows.end() ? qobject_cast<QDialog*>(*found) : nullptr;
+}
+
 void DialogHands::UseTopmost() {
-  auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog == nullptr || !dialog->isVisible()) return;
+  QDialog* const dialog = Open();
+  if (dialog == nullptr) return;
   // An exception must not go through the dialog's event loop.
   try {
     if (waiting_.empty()) {

@@ -19,6 +19,9 @@ class DialogHands {
 
   DialogHands();
 
+  // The dialog that takes the user's hands now; nullptr for none.
+  static QDialog* Open();
+
   // What to do with the dialogs to come, one each, in this order.
   void AtNext(Use use) { waiting_.push_back(std::move(use)); }
   // Throws HandsFailed where a dialog could not be used, none was waited for, or one did not come.
