@@ -38,6 +38,7 @@ TEST(RtfReader, TellsCharactersFromWhatIsNone) {
       // Paragraphs, lines, tables.
       {"a\\par b\\\nc\\sect d\\page e\\column f", "a\nb\nc\nd\ne\nf"},
       {"a\\line b\\lbr0 c", "a\u2028b\u2028c"},
+      {"a\\'0db\\'0ac\\'0d\\'0ad\\'0d\r\n\\'0a\\'0a", "a\nb\nc\nd\n\n"},
       {"a\\tab b\tc", "a\tb\tc"},
       {"\\trowd\\intbl a\\cell b\\cell\\row c", "a\tb\t\nc"},
       {"\\itap2 x\\nestcell{\\*\\nesttableprops\\trowd\\nestrow}{\\nonesttables\\par}y", "x\t\ny"},
@@ -50,6 +51,8 @@ TEST(RtfReader, TellsCharactersFromWhatIsNone) {
       // Groups that hold no text.
       {"a{\\*\\strange b}{\\info{\\title b}}{\\header b}{\\footnote b}c", "ac"},
       {"a{\\author b}{\\passwordhash 01}c", "ac"},
+      {"a{\\leveltext b}{\\levelnumbers b}{\\listname b}{\\ffname b}{\\moMath b}{\\staticval b}c",
+       "ac"},
       {"a{\\listtext 1.\\tab}{\\pntext 2.}{\\xe b}{\\*\\annotation b}c", "ac"},
       {"a{\\field{\\*\\fldinst HYPERLINK}{\\fldrslt b}}{\\fldinst c}", "ab"},
       {"{\\upr{ansi}{\\*\\ud unicode}}", "unicode"},
@@ -66,6 +69,30 @@ TEST(RtfReader, TellsCharactersFromWhatIsNone) {
   });
 }
 
+// Fields that name one character; what a result holds comes first.
+TEST(RtfReader, ShowsTheCharacterOfASymbolField) {
+  const auto field = [](const std::string& instruction, const std::string& result) {
+    return "a{\\field\\flddirty{\\*\\fldinst " + instruction + "}" + result + "}b";
+  };
+  ExpectTexts({
+      {field("SYMBOL 97 \\\\f \"Symbol\" \\\\s 12", "{\\fldrslt\\f2\\fs24}"), "a\uF061b"},
+      {field("{symbol }{\\b 0x61 \\\\fSymbol}{\\*\\datafield 00}", ""), "a\uF061b"},
+      {field("SYMBOL 61537 \\\\f \"Wingdings 2\" \\\\h", "{\\fldrslt }"), "a\uF061b"},
+      {field("SYMBOL 955 \\\\u \\\\f \"Times\"", "{\\fldrslt {\\b }}"), "aλb"},
+      {field("SYMBOL 33686 \\\\j", "{\\fldrslt}"), "aヶb"},
+      {field("SYMBOL 232", "{\\fldrslt}"), "ačb"},
+      {field("SYMBOL 232 \\\\f Symbol", "{\\fldrslt x}"), "axb"},
+      {field("SYMBOL 232 \\\\f Symbol", "{\\fldrslt{\\pict 00}}"), "a\uFFFCb"},
+      {field("SYMBOL 7", ""), "ab"},
+      {field("SYMBOL 1114112 \\\\u", ""), "ab"},
+      {field("SYMBOL", ""), "ab"},
+      {field("SYMBOL x", ""), "ab"},
+      {field("PAGE", ""), "ab"},
+      {field("SYMBOL 97", "{\\field{\\fldinst SYMBOL 98}}"), "abb"},
+      {"{\\b{\\field{\\fldinst SYMBOL 98 \\\\f Symbol}{\\fldrslt\\b0}}}", "<b>\uF062"},
+  });
+}
+
 TEST(RtfReader, DecodesByTheFontsCodePage) {
   ExpectTexts({
       {"\\'e9\\f1\\'e9\\f4\\'e8\\f9\\'e8", "éйčč"},
@@ -75,10 +102,17 @@ TEST(RtfReader, DecodesByTheFontsCodePage) {
       {"{\\f3 \\'83}\\'41", "\uFFFDA"},
       {"\\f3 \x83\\a", "ソa"},  // its second byte is a backslash
       {"{\\f1\\'e9}\\'e9\\plain\\'e9", "йéé"},
-      {"\\'4x\\'zy", "\x04xzy"},
+      {"\\'4xy\\'3?z\\'zy\\'4{x}", "\x04y\x03zzy\x04x"},
   });
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\mac \\'8e}")), "é");
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\ansi\\ansicpg65001 \\'c3\\'a9\\'e2\\'82x}")), "é\uFFFDx");
+  EXPECT_EQ(
+      Dump(*rtf::Read("{\\rtf1\\ansi\\ansicpg65001{\\fonttbl{\\f0\\fcharset0 A;}{\\f1\\fcharset2 "
+                      "S;}}\\f0\\'e2\\'82\\'ac\\f1\\'e2}")),
+      "€\uF0E2");
+  EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset134\\cpg65001 A;}}"
+                            "\\f0\\'e4\\'b8\\'ad\\'e5\\'9c\\'8b}")),
+            "中國");
   EXPECT_EQ(Dump(*rtf::Read("{\\rtf1\\ansi\\ansicpg0 \\'e9\xE9}")), "éé");
 }
 

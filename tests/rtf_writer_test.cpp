@@ -41,6 +41,9 @@ TEST(RtfWriter, WrapsStretchesAndNothingElse) {
       {"\\b x\\cf1 y", {0, 2}, "\\b {\\cf1 x}\\cf1 y"},
       {"{\\b x}", {0, 1}, "{\\b\\cf1 x}"},
       {"{\\pict 00}", {0, 1}, "{\\cf1\\b {\\pict 00}}"},
+      {"a{\\field{\\*\\fldinst SYMBOL 97}{\\fldrslt\\f3}}b",
+       {1, 2},
+       "a{\\cf1\\b {\\field{\\*\\fldinst SYMBOL 97}{\\fldrslt\\f3}}}b"},
       // The weight of a right-to-left run goes by two names.
       {"\\rtlch x", {0, 1}, "\\rtlch {\\cf1\\b\\ab x}"},
       // Words between the halves of a pair must not be undone.
@@ -57,6 +60,8 @@ TEST(RtfWriter, WrapsStretchesAndNothingElse) {
 }
 
 TEST(RtfWriter, TakesMarksOffAgain) {
+  const std::string symbol = "{\\rtf1" + kTable + "a{\\field{\\fldinst SYMBOL 98}}c}";
+  EXPECT_EQ(Marked(Marked(symbol, {0, 3}), {0, 3}, kPlain), symbol);
   const std::string file = "{\\rtf1" + kTable + "a{\\cf1\\b b{\\up3 c}d}e}";
   EXPECT_EQ(Marked(file, {1, 4}, kPlain), "{\\rtf1" + kTable + "abcde}");
   EXPECT_EQ(Marked(file, {2, 3}, kPlain), "{\\rtf1" + kTable + "a{\\cf1\\b b{\\cf0\\b0 c}d}e}");
@@ -168,7 +173,8 @@ std::vector<std::string> BrokenFiles() {
       fonts + "\\u55357?x\\u56842?}",                 // nor these
       fonts + "{x\\pict 00}{\\i\\pict}y{\\object}}",  // pictures without a group of their own
       fonts + "\\f1\\'83\\'\xFF\xFF y}",              // one of them inside a sequence
-      fonts + "\\'4xy\\'z\\'}",                       // numbers that lack digits
+      fonts + "\\'4xy\\'z\\'8{\\b x}\\'}",            // numbers that lack digits
+      fonts + "x\\'0dy\\'0az\\'0d{\\cf1\\b \\'0a}}",  // two paragraph ends that could become one
       fonts + "\\bin3\\cg  x}",                       // data that looks like a word
       fonts + "\\upr xyz}",                           // no group to choose from
       fonts + "\\uc2\\u-2\\x{\\ul\\cf1 http}}",       // a brace ends what stands in for a character
@@ -364,8 +370,9 @@ TEST(RtfWriter, WritesADamagedTextAnewRatherThanChangeIt) {
 
 TEST(RtfWriter, RewritesEveryLookThatItKnows) {
   const std::string look =
-      "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 Serif;}{\\f3\\fcharset2 Symbol;}}"
-      "{\\colortbl;\\red9\\green0\\blue0;}"
+      "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 Serif;}{\\f3\\fcharset2 Symbol;}"
+      "{\\f4\\fcharset128 \\'82\\'6c\\u26126?\\u-10178 ?\\u-9014 "
+      "?;}}{\\colortbl;\\red9\\green0\\blue0;}"
       "\\pard\\qc\\li720\\ri20\\fi-20\\sb5\\sa7\\rtlpar\\f0 a{\\f3\\'e1\\fs60\\i b}{\\rtlch\\ab "
       "c}\\par"
       "\\pard\\qj{\\highlight1 d\\highlight7 e}{\\super f}{\\sub\\strike\\v g}\\page"

@@ -6,6 +6,8 @@ namespace quill::rtf {
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+constexpr char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
 // The value of a hexadecimal digit, -1 for any other character.
 constexpr int HexValue(char c) {
   if (IsDigit(c)) return c - '0';

@@ -1,7 +1,10 @@
 // Groups that hold something else than text: tables, pictures, notes, and what nobody knows.
 #include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
+#include "rtf/symbol_field.h"
 #include "rtf/text_reader.h"
 #include "rtf/words.h"
 #include "text/unicode.h"
@@ -12,6 +15,12 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
   switch (entry.word) {
     case Word::kTransparent:
       marks_.Other();
+      return;
+    case Word::kField:
+      TakeField();
+      return;
+    case Word::kFieldInstruction:
+      TakeFieldInstruction();
       return;
     case Word::kAlternatives:
       skipNext_ = true;
@@ -24,7 +33,7 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       TakeObject(token);
       return;
     case Word::kFontTable:
-      tables_.fonts.Read(lexer_, *tables_.standardPage);
+      tables_.fonts.Read(lexer_, *tables_.standardPage, states_.Now().look.fallback);
       CloseSkipped();
       if (text_.Size() == 0) tablePlace_ = lexer_.At();
       SelectFont(tables_.defaultFont, tables_, states_);
@@ -37,11 +46,15 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       CloseSkipped();
       return;
     default:
-      // A destination directly in the document's own group would hide all the rest of it.
-      if (states_.Depth() > 1) return SkipGroup();
-      Oddity();
+      TakeSkipped();
       return;
   }
+}
+
+void TextReader::TakeSkipped() {
+  if (states_.Depth() > 1) return SkipGroup();
+  // A destination directly in the document's own group would hide all the rest of it.
+  Oddity();
 }
 
 // The first table with colours in it is the file's; others are run over.
@@ -70,6 +83,37 @@ void TextReader::TakeObject(const Token& token) {
     Oddity();
   }
   CloseGroup();
+}
+
+void TextReader::TakeField() {
+  field_ = {};
+  if (atHead_ || (starred_ && starredHead_)) {
+    field_ = {states_.Depth(), groupOpen_, text_.Size(), {}, marks_.Here()};
+  }
+  marks_.Other();
+}
+
+void TextReader::TakeFieldInstruction() {
+  const Offset begin = lexer_.At();
+  const bool ofField = field_.depth > 0 && states_.Depth() == field_.depth + 1;
+  TakeSkipped();
+  if (ofField) field_.instruction = std::string_view(bytes_).substr(begin, lexer_.At() - begin);
+}
+
+// A symbol with all of its field is one character. The field's group is closed already: its look is
+// that of the place, so that characters can be typed beside it.
+void TextReader::EndField(Offset end) {
+  Field field = std::exchange(field_, {});
+  if (text_.Size() != field.textSize) return;
+  const std::optional<SymbolField> symbol = ReadSymbolField(field.instruction);
+  if (!symbol) return;
+  const bool symbolFont =
+      symbol->font.empty() ? states_.Now().page->IsSymbol() : tables_.fonts.IsSymbol(symbol->font);
+  const char32_t character = CharacterOf(*symbol, *tables_.standardPage, symbolFont);
+  if (character == 0) return;
+  text_.Add(character, field.begin, end);
+  marks_.GoBack(std::move(field.marks));
+  marks_.GroupIsCharacter();
 }
 
 // A picture may stand there in two forms, one behind the other: together they are one character.
@@ -129,6 +173,7 @@ void TextReader::CloseGroup() {
   text_.Flush();
   atHead_ = false;
   starred_ = false;
+  if (states_.Depth() <= field_.depth) field_ = {};
   if (states_.Depth() > 1) {
     states_.Close();
   } else {

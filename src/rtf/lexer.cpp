@@ -103,6 +103,9 @@ void Lexer::Hex(Token& token) {
   for (int digits = 0; digits < 2 && !AtEnd() && HexValue(Here()) >= 0; ++digits, ++at_) {
     token.number = std::max(token.number, 0) * 16 + HexValue(Here());
   }
+  // What stands in place of a second digit is no text.
+  const bool broken = at_ - token.begin == 3 && token.number >= 0;
+  if (broken && !AtEnd() && IsLiteral(Here())) ++at_;
 }
 
 }  // namespace quill::rtf

@@ -19,7 +19,8 @@ struct Token {
     kClose,    // }
     kText,     // literal bytes: no brace, no backslash, no line end, no NUL
     kIgnored,  // line ends and NULs between other tokens
-    kHex,      // \'hh; `number` is the byte, -1 where no hexadecimal digit follows
+    kHex,      // \'hh; `number` is the byte, -1 where no hexadecimal digit follows. Where one does,
+               // the byte behind it belongs to the token, whatever literal it is.
     kWord,     // \word with an optional number and the one blank that ends it; \bin with its data
     kSymbol,   // \ and one other character; `number` is that byte, -1 at the end of the file
   };

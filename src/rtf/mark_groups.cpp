@@ -45,6 +45,13 @@ void MarkGroupFinder::GroupIsCharacter() {
   if (!open_.empty()) open_.pop_back();
 }
 
+MarkGroupFinder::Place MarkGroupFinder::Here() const { return {open_, found_.size()}; }
+
+void MarkGroupFinder::GoBack(Place place) {
+  open_ = std::move(place.open);
+  found_.resize(place.found);
+}
+
 std::vector<MarkGroup> MarkGroupFinder::Take() {
   // They were found in the order of their closing braces, which is the same where none is nested.
   const auto byOpening = [](const MarkGroup& a, const MarkGroup& b) { return a.open < b.open; };

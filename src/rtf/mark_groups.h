@@ -24,6 +24,12 @@ class MarkGroupFinder {
   // The group opened last turns out to be one character.
   void GroupIsCharacter();
 
+  // What is known at one place of the file, to come back to.
+  struct Place;
+  Place Here() const;
+  // Forgets what has come since; what was told in between must have been all of a group.
+  void GoBack(Place place);
+
   // In the order of their opening braces.
   std::vector<MarkGroup> Take();
 
@@ -38,6 +44,11 @@ class MarkGroupFinder {
   // The innermost open groups that may still be marks, each directly in the one before.
   std::vector<Candidate> open_;
   std::vector<MarkGroup> found_;
+};
+
+struct MarkGroupFinder::Place {
+  std::vector<Candidate> open;
+  std::size_t found = 0;
 };
 
 }  // namespace quill::rtf

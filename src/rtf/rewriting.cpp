@@ -22,16 +22,14 @@ std::string Word(std::string_view name, int number) {
   return "\\" + std::string(name) + std::to_string(number);
 }
 
-bool IsPrintableAscii(char c) { return c >= 0x20 && c <= 0x7E; }
-
 std::string FontTableOf(const std::vector<FontFace>& faces) {
   std::string table = "{\\fonttbl";
   // Face 0 is that of every font that the table lacks.
   for (std::size_t face = 1; face < faces.size(); ++face) {
     table += "{" + Word("f", static_cast<int>(face)) + (faces[face].symbol ? "\\fcharset2 " : " ");
-    for (const char c : faces[face].name) {
-      if (IsPrintableAscii(c) && std::string_view("\\{};").find(c) == std::string_view::npos) {
-        table += c;
+    for (const char32_t c : FromUtf8(faces[face].name)) {
+      if (c >= 0x20 && std::u32string_view(U"\\{};").find(c) == std::u32string_view::npos) {
+        AppendCharacter(table, c, kFallback, false);
       }
     }
     table += ";}";

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "rtf/ascii.h"
 #include "rtf/words.h"
 #include "text/unicode.h"
 
@@ -30,6 +31,23 @@ int CodePageOfName(std::string_view name) {
   return 0;
 }
 
+// Appends a code unit of UTF-16; with the first half of a pair in front of it, it makes one
+// character.
+void AppendUnit(std::u32string& name, char32_t unit) {
+  const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
+  if (low && !name.empty() && name.back() >= 0xD800 && name.back() <= 0xDBFF) {
+    name.back() = 0x10000 + ((name.back() - 0xD800) << 10U) + (unit - 0xDC00);
+  } else {
+    name += unit;
+  }
+}
+
+std::string Lower(std::string_view name) {
+  std::string lower(name);
+  for (char& c : lower) c = AsciiLower(c);
+  return lower;
+}
+
 std::u32string DecodeName(const std::string& bytes, const CodePage& page) {
   std::u32string name;
   for (std::size_t i = 0; i < bytes.size();) {
@@ -46,8 +64,9 @@ std::u32string DecodeName(const std::string& bytes, const CodePage& page) {
 
 FontTable::FontTable() { faces_.emplace_back(); }
 
-void FontTable::Read(Lexer& lexer, const CodePage& standard) {
+void FontTable::Read(Lexer& lexer, const CodePage& standard, std::uint32_t fallback) {
   standard_ = &standard;
+  fallback_ = fallback;
   // A font stands in a group of its own or, in old files, directly in the table's. What is nested
   // deeper (\*\panose, \*\falt) belongs to no name.
   constexpr std::size_t kDeepest = 2;
@@ -69,12 +88,19 @@ void FontTable::Take(const Token& token, std::string_view bytes) {
   if (token.kind == Token::kWord) {
     TakeWord(token);
   } else if (token.kind == Token::kHex && token.number >= 0) {
-    entry_.name += static_cast<char>(token.number);
+    const char byte = static_cast<char>(token.number);
+    TakeName({&byte, 1});
   } else if (token.kind == Token::kText) {
     const std::size_t end = bytes.find(';');
-    entry_.name += bytes.substr(0, end);
+    TakeName(bytes.substr(0, end));
     if (end != std::string_view::npos) Finish();
   }
+}
+
+void FontTable::TakeName(std::string_view bytes) {
+  const std::size_t standIns = std::min<std::size_t>(bytes.size(), fallbackLeft_);
+  fallbackLeft_ -= static_cast<std::uint32_t>(standIns);
+  entry_.bytes += bytes.substr(standIns);
 }
 
 void FontTable::TakeWord(const Token& token) {
@@ -87,22 +113,42 @@ void FontTable::TakeWord(const Token& token) {
     entry_.charset = token.number;
   } else if (word == Word::kFontCodePage) {
     entry_.codePage = token.number;
+  } else if (word == Word::kUnicode) {
+    EndBytes();
+    AppendUnit(entry_.name, static_cast<char16_t>(token.number));
+    fallbackLeft_ = fallback_;
   }
 }
 
+void FontTable::EndBytes() {
+  const CodePage& page = PageOf(entry_);
+  // The name of a symbol font is ordinary text.
+  entry_.name += DecodeName(entry_.bytes, page.IsSymbol() ? CodePage::Of(1252) : page);
+  entry_.bytes.clear();
+}
+
+// UTF-8 has no character set of its own: where a font or the file names it, it counts.
+const CodePage& FontTable::PageOf(const Entry& entry) const {
+  const int ofCharset = CodePageOfCharset(entry.charset);
+  if (entry.codePage == CodePage::kUtf8) return CodePage::Of(CodePage::kUtf8);
+  if (standard_->Number() == CodePage::kUtf8 && ofCharset != CodePage::kSymbol) return *standard_;
+  for (const int number : {ofCharset, entry.codePage, CodePageOfName(entry.bytes)}) {
+    if (number != 0) return CodePage::Of(number);
+  }
+  return *standard_;
+}
+
 void FontTable::Finish() {
+  const CodePage& page = PageOf(entry_);
+  EndBytes();
+  fallbackLeft_ = 0;
   const Entry entry = std::exchange(entry_, {});
   if (!entry.begun) return;
-  int number = CodePageOfCharset(entry.charset);
-  if (number == 0) number = entry.codePage;
-  if (number == 0) number = CodePageOfName(entry.name);
-  const CodePage& page = number == 0 ? *standard_ : CodePage::Of(number);
-  // The name of a symbol font is ordinary text.
-  const CodePage& namePage = page.IsSymbol() ? CodePage::Of(1252) : page;
   Font font{0, &page};
   if (faces_.size() < kMostFaces) {
     font.face = static_cast<std::uint16_t>(faces_.size());
-    faces_.push_back({ToUtf8(DecodeName(entry.name, namePage)), page.IsSymbol()});
+    faces_.push_back({ToUtf8(entry.name), page.IsSymbol()});
+    if (page.IsSymbol()) symbolNames_.insert(Lower(faces_.back().name));
   }
   fonts_[entry.number] = font;
 }
@@ -110,6 +156,15 @@ void FontTable::Finish() {
 const Font* FontTable::Find(std::int32_t number) const {
   const auto found = fonts_.find(number);
   return found != fonts_.end() ? &found->second : nullptr;
+}
+
+bool FontTable::IsSymbol(std::string_view name) const {
+  static constexpr std::array<std::string_view, 10> kKnown = {
+      "symbol",       "wingdings",     "wingdings 2",       "wingdings 3",    "webdings",
+      "zapfdingbats", "zapf dingbats", "itc zapf dingbats", "monotype sorts", "mt extra"};
+  const std::string lower = Lower(name);
+  return symbolNames_.contains(lower) ||
+         std::find(kKnown.begin(), kKnown.end(), lower) != kKnown.end();
 }
 
 bool ReadColourTable(Lexer& lexer, ColourTable& result) {

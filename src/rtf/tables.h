@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -28,10 +29,13 @@ class FontTable {
   FontTable();
 
   // Reads on from inside the table's group to its closing brace, which is the last token taken.
-  // `standard` is the code page of the document.
-  void Read(Lexer& lexer, const CodePage& standard);
+  // `standard` is the code page of the document, `fallback` how many characters follow a \u.
+  void Read(Lexer& lexer, const CodePage& standard, std::uint32_t fallback);
   // The font of a number, or nullptr where the table has none.
   const Font* Find(std::int32_t number) const;
+  // Whether a font of that name, whatever its case, is one of symbols: by the table or, where that
+  // does not say so, because everybody knows it.
+  bool IsSymbol(std::string_view name) const;
   // Face 0 stands for every font that the file does not declare.
   std::vector<FontFace> TakeFaces() { return std::move(faces_); }
 
@@ -42,16 +46,23 @@ class FontTable {
     std::int32_t number = 0;
     int charset = -1;
     int codePage = 0;
-    std::string name;  // bytes in the font's own code page
+    std::u32string name;
+    std::string bytes;  // what follows of the name, in the font's own code page
   };
   void Take(const Token& token, std::string_view bytes);
   void TakeWord(const Token& token);
+  void TakeName(std::string_view bytes);
+  void EndBytes();
   void Finish();
+  const CodePage& PageOf(const Entry& entry) const;
 
   std::vector<FontFace> faces_;
+  std::unordered_set<std::string> symbolNames_;  // in small letters
   std::unordered_map<std::int32_t, Font> fonts_;
   Entry entry_;
   const CodePage* standard_ = nullptr;
+  std::uint32_t fallback_ = 1;
+  std::uint32_t fallbackLeft_ = 0;
 };
 
 // Reads the colour table on from inside its group to its closing brace. Returns false where the

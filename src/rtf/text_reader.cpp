@@ -47,7 +47,8 @@ Document TextReader::Read() {
   if (!headerEnded_) tablePlace_ = bodyEnd;
   if (!tables_.colours.present) tables_.colours.end = tablePlace_;
   const FormatId endFormat = states_.Format();
-  if (!text_.IsWhole()) Oddity();
+  // A line feed that comes to stand behind one would be read together with it.
+  if (!text_.IsWhole() || loneReturns_ > 0) Oddity();
   Source source{std::move(bytes_), std::move(tables_.colours),
                 marks_.Take(),     text_.TakeSplitPairs(),
                 bodyEnd,           wellFormed_};
@@ -141,8 +142,22 @@ void TextReader::TakeHex(const Token& token) {
     if (!text_.AwaitsByte()) marks_.Other();
     return;
   }
+  if (token.number == '\r' || token.number == '\n') return TakeLineEndByte(token);
   marks_.Characters();
   text_.AddByte(static_cast<unsigned char>(token.number), token.begin, token.end);
+}
+
+// Carriage return and line feed are one paragraph end each, and together one.
+void TextReader::TakeLineEndByte(const Token& token) {
+  if (token.number == '\n' && returnEnd_ != 0 && IsOnlyLineEnds(returnEnd_, token.begin)) {
+    text_.ExtendLast(token.end);
+    --loneReturns_;
+    return;
+  }
+  AddCharacter(kParagraphEnd, token);
+  if (token.number == '\n') return;
+  returnEnd_ = token.end;
+  ++loneReturns_;
 }
 
 void TextReader::TakeSymbol(const Token& token) {
@@ -291,7 +306,12 @@ bool TextReader::Close(const Token& token) {
   if (std::exchange(braceIsNeeded_, false)) marks_.Other();
   marks_.Close(token.begin);
   // What is in force at the document's end stays, for what is typed there.
-  if (states_.Depth() > 1) return states_.Close();
+  if (states_.Depth() > 1) {
+    const bool endsField = states_.Depth() == field_.depth;
+    states_.Close();
+    if (endsField) EndField(token.end);
+    return true;
+  }
   ended_ = true;
   return false;
 }

@@ -45,6 +45,11 @@ class TextReader {
   void TakeColourTable();
   void TakeObject(const Token& token);
   void TakePictureForm(const WordEntry& entry, const Token& token);
+  void TakeField();
+  void TakeFieldInstruction();
+  void TakeSkipped();
+  void EndField(Offset end);
+  void TakeLineEndByte(const Token& token);
   bool IsOnlyLineEnds(Offset begin, Offset end) const;
   void EndHeader(const WordEntry* entry, const Token& token);
   void SetStandardPage(const CodePage& page);
@@ -78,6 +83,19 @@ class TextReader {
   bool tableCameLate_ = false;
   Offset tablePlace_ = 0;  // where a colour table can stand
   bool ansiPageGiven_ = false;
+
+  Offset returnEnd_ = 0;         // of the last \'0d
+  std::size_t loneReturns_ = 0;  // those without a \'0a
+
+  // The innermost open field: it stands for a character where it names one and has no result.
+  struct Field {
+    std::size_t depth = 0;  // 0 where none is open
+    Offset begin = 0;
+    std::size_t textSize = 0;
+    std::string_view instruction;
+    MarkGroupFinder::Place marks;
+  };
+  Field field_;
 
   // The form of a picture that came last, where the text then stood and where its group ended.
   int pictureForm_ = 0;

@@ -1,7 +1,8 @@
 #include "rtf/words.h"
 
-#include <array>
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <vector>
 
 #include "text/format.h"
@@ -78,104 +79,10 @@ constexpr WordEntry kWords[] = {
     {"nonshppict", Word::kPictureForm, 2},
     {"upr", Word::kAlternatives},
     {"ud", Word::kTransparent},
-    {"field", Word::kTransparent},
+    {"field", Word::kField},
+    {"fldinst", Word::kFieldInstruction},
     {"fldrslt", Word::kTransparent},
     {"nesttableprops", Word::kTransparent},
-    {"stylesheet", Word::kSkipped},
-    {"info", Word::kSkipped},
-    {"fldinst", Word::kSkipped},
-    {"datafield", Word::kSkipped},
-    {"formfield", Word::kSkipped},
-    {"footnote", Word::kSkipped},
-    {"header", Word::kSkipped},
-    {"headerl", Word::kSkipped},
-    {"headerr", Word::kSkipped},
-    {"headerf", Word::kSkipped},
-    {"footer", Word::kSkipped},
-    {"footerl", Word::kSkipped},
-    {"footerr", Word::kSkipped},
-    {"footerf", Word::kSkipped},
-    {"ftnsep", Word::kSkipped},
-    {"ftnsepc", Word::kSkipped},
-    {"ftncn", Word::kSkipped},
-    {"aftnsep", Word::kSkipped},
-    {"aftnsepc", Word::kSkipped},
-    {"aftncn", Word::kSkipped},
-    {"annotation", Word::kSkipped},
-    {"atnid", Word::kSkipped},
-    {"atnauthor", Word::kSkipped},
-    {"atntime", Word::kSkipped},
-    {"atndate", Word::kSkipped},
-    {"atnicn", Word::kSkipped},
-    {"atnref", Word::kSkipped},
-    {"atnparent", Word::kSkipped},
-    {"atrfstart", Word::kSkipped},
-    {"atrfend", Word::kSkipped},
-    {"xe", Word::kSkipped},
-    {"rxe", Word::kSkipped},
-    {"txe", Word::kSkipped},
-    {"tc", Word::kSkipped},
-    {"tcn", Word::kSkipped},
-    {"listtext", Word::kSkipped},
-    {"pntext", Word::kSkipped},
-    {"pntxta", Word::kSkipped},
-    {"pntxtb", Word::kSkipped},
-    {"pn", Word::kSkipped},
-    {"pnseclvl", Word::kSkipped},
-    {"nonesttables", Word::kSkipped},
-    {"bkmkstart", Word::kSkipped},
-    {"bkmkend", Word::kSkipped},
-    {"shpinst", Word::kSkipped},
-    {"shprslt", Word::kSkipped},
-    {"shptxt", Word::kSkipped},
-    {"do", Word::kSkipped},
-    {"dptxbxtext", Word::kSkipped},
-    {"background", Word::kSkipped},
-    {"objdata", Word::kSkipped},
-    {"objclass", Word::kSkipped},
-    {"objname", Word::kSkipped},
-    {"objalias", Word::kSkipped},
-    {"objsect", Word::kSkipped},
-    {"listtable", Word::kSkipped},
-    {"listoverridetable", Word::kSkipped},
-    {"revtbl", Word::kSkipped},
-    {"rsidtbl", Word::kSkipped},
-    {"filetbl", Word::kSkipped},
-    {"generator", Word::kSkipped},
-    {"template", Word::kSkipped},
-    {"private", Word::kSkipped},
-    {"nextfile", Word::kSkipped},
-    {"docvar", Word::kSkipped},
-    {"userprops", Word::kSkipped},
-    {"mmathPr", Word::kSkipped},
-    {"xmlnstbl", Word::kSkipped},
-    {"themedata", Word::kSkipped},
-    {"colorschememapping", Word::kSkipped},
-    {"latentstyles", Word::kSkipped},
-    {"datastore", Word::kSkipped},
-    {"htmltag", Word::kSkipped},
-    {"mhtmltag", Word::kSkipped},
-    {"pgdsctbl", Word::kSkipped},
-    {"keycode", Word::kSkipped},
-    {"title", Word::kSkipped},
-    {"subject", Word::kSkipped},
-    {"author", Word::kSkipped},
-    {"manager", Word::kSkipped},
-    {"company", Word::kSkipped},
-    {"operator", Word::kSkipped},
-    {"category", Word::kSkipped},
-    {"keywords", Word::kSkipped},
-    {"doccomm", Word::kSkipped},
-    {"hlinkbase", Word::kSkipped},
-    {"creatim", Word::kSkipped},
-    {"revtim", Word::kSkipped},
-    {"printim", Word::kSkipped},
-    {"buptim", Word::kSkipped},
-    {"password", Word::kSkipped},
-    {"passwordhash", Word::kSkipped},
-    {"sp", Word::kSkipped},
-    {"sn", Word::kSkipped},
-    {"sv", Word::kSkipped},
 
     // The four attributes.
     {"plain", Word::kPlain},
@@ -270,27 +177,47 @@ constexpr WordEntry kWords[] = {
     {"revised", Word::kKnown},
 };
 
+// Destinations that hold no text of the document, whether a \* stands in front of them or not.
+constexpr std::string_view kSkippedWords =
+    "aftncn aftnsep aftnsepc annotation atnauthor atndate atnicn atnid atnparent atnref "
+    "atntime atrfend atrfstart author background bkmkend bkmkstart blipuid buptim category "
+    "colorschememapping comment company creatim datafield datastore defchp defpap do doccomm "
+    "docvar dptxbxtext ebcend ebcstart factoidname falt fchars ffdeftext ffentrymcr "
+    "ffexitmcr ffformat ffhelptext ffl ffname ffstattext file filetbl fldtype fname fontemb "
+    "fontfile footer footerf footerl footerr footnote formfield ftncn ftnsep ftnsepc "
+    "generator gridtbl header headerf headerl headerr hl hlfr hlinkbase hlloc hlsrc hsv "
+    "htmltag info keycode keywords latentstyles lchars levelnumbers leveltext lfolevel "
+    "linkval list listlevel listname listoverride listoverridetable listpicture "
+    "liststylename listtable listtext lsdlockedexcept mailmerge manager mhtmltag "
+    "mmaddfieldname mmathPict mmathPr mmconnectstr mmconnectstrdata mmdatasource "
+    "mmheadersource mmmailsubject mmodso mmodsofilter mmodsofldmpdata mmodsomappedname "
+    "mmodsoname mmodsorecipdata mmodsosort mmodsosrc mmodsotable mmodsoudl mmodsoudldata "
+    "mmodsouniquetag mmquery moMath moMathPara nextfile nonesttables objalias objclass "
+    "objdata objname objsect objtime oldcprops oldpprops oldsprops oldtprops oleclsid "
+    "operator panose password passwordhash pgdsctbl pgp pgptbl picprop pn pnseclvl pntext "
+    "pntxta pntxtb printim private propname protend protstart protusertbl pxe revtbl revtim "
+    "rsidtbl rxe shpinst shprslt shptxt sn sp staticval stylesheet subject sv svb tc tcn "
+    "template themedata title txe userprops wgrffmtfilter windowcaption writereservation "
+    "writereservhash xe xform xmlattrname xmlattrvalue xmlclose xmlname xmlnstbl xmlopen";
+
 // A table with a free place at least every second one: a look-up compares about one name.
 class WordIndex {
  public:
   WordIndex() : places_(kPlaces) {
-    for (const WordEntry& entry : kWords) {
-      std::size_t at = Hash(entry.name);
-      while (places_[at] != nullptr) at = (at + 1) % kPlaces;
-      places_[at] = &entry;
+    for (const WordEntry& entry : kWords) Add(entry);
+    for (std::string_view rest = kSkippedWords; !rest.empty();) {
+      const std::string_view name = rest.substr(0, rest.find(' '));
+      Add({name, Word::kSkipped});
+      rest.remove_prefix(std::min(rest.size(), name.size() + 1));
     }
   }
 
-  const WordEntry* Find(std::string_view name) const {
-    for (std::size_t at = Hash(name); places_[at] != nullptr; at = (at + 1) % kPlaces) {
-      if (places_[at]->name == name) return places_[at];
-    }
-    return nullptr;
-  }
+  // A free place where there is none.
+  const WordEntry& Find(std::string_view name) const { return places_[PlaceOf(name)]; }
 
  private:
   static constexpr std::size_t kPlaces = 1024;
-  static_assert(std::size(kWords) * 2 < kPlaces);
+  static_assert((std::size(kWords) + std::ranges::count(kSkippedWords, ' ') + 1) * 2 < kPlaces);
 
   static std::size_t Hash(std::string_view name) {
     std::size_t hash = name.size();
@@ -298,16 +225,21 @@ class WordIndex {
     return (hash ^ hash >> 10U) % kPlaces;
   }
 
-  std::vector<const WordEntry*> places_;
+  std::size_t PlaceOf(std::string_view name) const {
+    std::size_t at = Hash(name);
+    while (!places_[at].name.empty() && places_[at].name != name) at = (at + 1) % kPlaces;
+    return at;
+  }
+  void Add(const WordEntry& entry) { places_[PlaceOf(entry.name)] = entry; }
+
+  std::vector<WordEntry> places_;
 };
 
 }  // namespace
 
 const WordEntry& LookUp(std::string_view name) {
   static const WordIndex index;
-  static constexpr WordEntry kUnknown{};
-  const WordEntry* const entry = index.Find(name);
-  return entry != nullptr ? *entry : kUnknown;
+  return index.Find(name);
 }
 
 }  // namespace quill::rtf

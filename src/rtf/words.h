@@ -19,6 +19,8 @@ enum class Word : std::uint8_t {
   // Groups.
   kSkipped,      // a destination whose content is no text of the document
   kTransparent,  // a destination whose content is text
+  kField,
+  kFieldInstruction,
   kFontTable,
   kColourTable,
   kExpandedColourTable,

@@ -7,10 +7,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "rtf/symbol_field.h"
 #include "text/unicode.h"
 #include "window/appearance.h"
 #include "window/paragraph_decoration.h"
 #include "window/shown.h"
+#include "window/symbols.h"
 
 namespace quill {
 namespace {
@@ -53,6 +55,17 @@ std::vector<Piece> PiecesOf(const Document& document, Range range) {
     at = end;
   }
   return pieces;
+}
+
+// A symbol that a field stands for is shown by the typeface that the field names.
+void ShowSymbolFields(std::u32string& shown, const Document& document, Position begin) {
+  const std::string_view bytes = document.GetSource().bytes;
+  auto at = static_cast<std::size_t>(begin);
+  for (char32_t& c : shown) {
+    const Origin& origin = document.Origins()[at++];
+    if (c < 0xF020 || c > 0xF0FF || origin.IsTyped() || bytes[origin.begin] != '{') continue;
+    c = ShownSymbol(c, rtf::FontOfSymbol(bytes.substr(origin.begin, origin.length)));
+  }
 }
 
 }  // namespace
@@ -127,7 +140,8 @@ std::u32string_view DocumentBinder::Part(Range range) const {
 void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
   for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
     const FontFace& face = text_.Doc().Fonts()[text_.Doc().Formats()[piece.format].look.font];
-    const std::u32string shown = ShownInText(Part(piece.range), face.name);
+    std::u32string shown = ShownInText(Part(piece.range), face.name);
+    ShowSymbolFields(shown, text_.Doc(), piece.range.begin);
     const QTextCharFormat style = styles_.Character(piece.format);
     std::size_t line = 0;
     for (;;) {
