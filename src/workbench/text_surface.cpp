@@ -133,10 +133,13 @@ void TextSurface::LoadFile(const std::u32string& path) {
 void TextSurface::SaveFile(const std::u32string& path) {
   Form().TheDisk().Replace(EncodePath(path), rtf::Write(document_));
   filePath_ = path;
+  savedChanges_ = document_.Changes();
 }
 
 void TextSurface::SetDocument(Document document) {
+  Form().TheWatcher().TextLeaves();
   document_ = std::move(document);
+  savedChanges_ = document_.Changes();
   history_.Clear();
   remembered_ = {};
   selection_ = {};

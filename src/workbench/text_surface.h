@@ -67,6 +67,9 @@ class TextSurface : public Control {
   void SaveFile(const std::u32string& path);
   // The path last loaded from or saved to; empty before.
   const std::u32string& FilePath() const { return filePath_; }
+  // Whether the text was changed since it was last loaded or saved. Counted, not compared: a change
+  // that was undone counts.
+  bool HasUnsavedChanges() const { return document_.Changes() != savedChanges_; }
   void Refresh() {}
 
   // The first position in [from, text's end) of a character that has, or lacks, a colour; the
@@ -108,6 +111,7 @@ class TextSurface : public Control {
   AttributeChange remembered_;
   EditHistory history_;
   std::u32string filePath_;
+  std::uint64_t savedChanges_ = 0;  // what the document counted then
 };
 
 }  // namespace quill
