@@ -23,7 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kMostTexts = 20;
-constexpr std::time_t kDay = 24 * 3600;
+constexpr std::time_t kDay = 24L * 3600;
 constexpr std::time_t kLongestAge = 30 * kDay;
 // Whoever opens the working copy after a crash, walks through it and closes it leaves a newer copy
 // than the one that holds the lost marks.
