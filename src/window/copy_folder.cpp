@@ -14,7 +14,7 @@
 #include <map>
 #include <utility>
 
-#include "files/replacement.h"
+#include "disk/replacement.h"
 #include "workbench/failure.h"
 
 namespace quill {

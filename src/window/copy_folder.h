@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "files/descriptor.h"
+#include "disk/descriptor.h"
 
 namespace quill {
 

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <regex>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "rtf/reader.h"
 #include "text/unicode.h"
 #include "user.h"
