@@ -12,14 +12,6 @@
 namespace quill {
 namespace {
 
-// The name is cut where it would grow beyond what a file system takes.
-std::string TemporaryPath(const std::string& target) {
-  constexpr std::string_view kEnding = ".quill-saving";
-  const std::string folder = FolderPart(target);
-  const std::string name = target.substr(folder.size());
-  return folder + "." + name.substr(0, NAME_MAX - kEnding.size() - 1) + std::string(kEnding);
-}
-
 // Whether the lock is ours. Where the file system has no locks, it counts as ours.
 bool Lock(const Descriptor& file) {
   return flock(file.Number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
@@ -62,6 +54,14 @@ std::string LinkText(const std::string& path) {
 
 }  // namespace
 
+// The name is cut where it would grow beyond what a file system takes.
+std::string TemporaryPath(const std::string& target) {
+  constexpr std::string_view kEnding = ".quill-saving";
+  const std::string folder = FolderPart(target);
+  const std::string name = target.substr(folder.size());
+  return folder + "." + name.substr(0, NAME_MAX - kEnding.size() - 1) + std::string(kEnding);
+}
+
 std::string TargetOf(const std::string& path) {
   constexpr int kMostLinks = 40;
   std::string target = path;
@@ -74,10 +74,11 @@ std::string TargetOf(const std::string& path) {
   FailDisk(path, "written", "its links go round in a circle");
 }
 
-Replacement::Replacement(const std::string& target, bool restricted)
+Replacement::Replacement(const std::string& target, bool restricted, Flushing flushing)
     : target_(target),
       path_(ClearedPath(target)),
-      file_(path_, O_WRONLY | O_CREAT | O_EXCL, restricted ? 0600 : 0666, target) {
+      file_(path_, O_WRONLY | O_CREAT | O_EXCL, restricted ? 0600 : 0666, target),
+      flushing_(flushing) {
   if (!file_.IsOpen()) FailDisk(target_, "written");
   // Between making and locking, another program may have taken the file for a stale one.
   struct stat there = {};
@@ -92,7 +93,7 @@ Replacement::~Replacement() {
 
 void Replacement::Fill(std::string_view bytes) const {
   file_.WriteAll(bytes);
-  file_.Flush();
+  if (flushing_ == Flushing::kToDisk) file_.Flush();
 }
 
 void Replacement::TakePermissionsOf(const struct stat& old) const {
@@ -122,7 +123,7 @@ bool Replacement::PutUnder(const std::string& freePath) {
 void Replacement::PutInPlace() {
   if (rename(path_.c_str(), target_.c_str()) != 0) FailDisk(target_, "replaced");
   inPlace_ = true;
-  FlushFolderOf(target_);
+  if (flushing_ == Flushing::kToDisk) FlushFolderOf(target_);
 }
 
 }  // namespace quill

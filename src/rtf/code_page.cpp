@@ -71,9 +71,9 @@ Converter OpenPage(int number) {
   return nullptr;
 }
 
-// ICU keeps no state between calls that reset the converter; one converter a page.
+// ICU keeps no state between calls that reset the converter; one converter a page and thread.
 Converter& ConverterOf(int number) {
-  static std::map<int, Converter> converters;
+  thread_local std::map<int, Converter> converters;
   const auto [entry, isNew] = converters.try_emplace(number);
   if (isNew) entry->second = OpenPage(number);
   return entry->second;
@@ -91,7 +91,7 @@ char32_t Convert(UConverter* converter, const char* bytes, std::size_t length) {
 }  // namespace
 
 const CodePage& CodePage::Of(int number) {
-  static std::map<int, std::unique_ptr<CodePage>> pages;
+  thread_local std::map<int, std::unique_ptr<CodePage>> pages;
   const bool known = number == kSymbol || number == kUtf8 || ConverterOf(number) != nullptr;
   std::unique_ptr<CodePage>& page = pages[known ? number : 1252];
   if (page == nullptr) page.reset(new CodePage(known ? number : 1252));

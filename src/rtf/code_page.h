@@ -17,7 +17,7 @@ class CodePage {
   static constexpr int kUtf8 = 65001;
 
   // The page of that number. Pages that are not known are taken for Windows-1252. Pages live until
-  // the end of the program.
+  // the end of the thread.
   static const CodePage& Of(int number);
 
   int Number() const { return number_; }

@@ -116,6 +116,7 @@ std::vector<Range> Document::Apply(const std::vector<Range>& ranges,
       at = stop;
     }
   }
+  if (!changed.empty()) ++changes_;
   return changed;
 }
 
@@ -164,6 +165,7 @@ std::vector<Cell> Document::Exchange(Range range, const std::vector<Cell>& cells
   text_.replace(Index(range.begin), Index(range.Length()), characters);
   Splice(formatIds_, range, ids);
   Splice(origins_, range, origins);
+  ++changes_;
   return gone;
 }
 

@@ -83,6 +83,10 @@ class Document {
   // Puts characters back that Type returned, in place of a range, and returns what stood there.
   std::vector<Cell> Exchange(Range range, const std::vector<Cell>& cells);
 
+  // How often the text or its formats have changed since it was made. Putting back what stood there
+  // before is a change, too.
+  std::uint64_t Changes() const { return changes_; }
+
   // Whether the range may be deleted: the end of a table's cell or row goes only with its whole
   // row.
   bool CanDelete(Range range) const;
@@ -107,6 +111,7 @@ class Document {
   std::vector<Origin> origins_;
   std::map<Offset, Offset> cuts_;
   FormatId endFormat_ = 0;  // of what stands behind the last character
+  std::uint64_t changes_ = 0;
 };
 
 }  // namespace quill

@@ -13,9 +13,11 @@
 
 #include "disk/posix_disk.h"
 #include "program/program.h"
+#include "window/abrupt_end.h"
 #include "window/appearance.h"
 #include "window/application.h"
 #include "window/main_window.h"
+#include "window/unsaved_copies.h"
 #include "window/window_dialogs.h"
 
 namespace {
@@ -103,6 +105,9 @@ int main(int argc, char** argv) {
   quill::WindowDialogs dialogs;
   quill::Program program(dialogs, disk);
   quill::MainWindow window(program);
+  quill::UnsavedCopies copies(program.Form(), quill::UserCopyFolder());
+  window.Inform(&copies);
+  const quill::AbruptEnd abruptEnd([&copies] { copies.Take(); });
   dialogs.Attach(window, program.Form());
   const auto open = [&](const QString& path) {
     dialogs.ChooseNext(path);
@@ -111,5 +116,7 @@ int main(int argc, char** argv) {
   window.OnDroppedFile(open);
   window.show();
   if (!text.isEmpty()) QTimer::singleShot(0, &window, [&] { open(text); });
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  copies.Take();  // before signals end the process at once again
+  return status;
 }

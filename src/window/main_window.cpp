@@ -26,6 +26,7 @@
 #include "window/menus.h"
 #include "window/names.h"
 #include "window/shown.h"
+#include "window/unsaved_copies.h"
 
 namespace quill {
 namespace {
@@ -64,7 +65,8 @@ MainWindow::MainWindow(Program& program)
     : form_(program.Form()),
       actions_(
           program, [this] { Show(); }, [this] { close(); }),
-      updates_(form_, [this] { Show(); }),
+      updates_(
+          form_, [this] { Show(); }, [this] { TextLeaves(); }),
       room_(new Room(*this, [this] { Arrange(); })),
       desk_(new QWidget) {
   setObjectName(QStringLiteral("Form1"));
@@ -172,6 +174,11 @@ void MainWindow::Show() {
   if (updates_.TakeFocusMoved()) ShowFocus();
   const TextSurface& text = form_.RichTextBox1;
   mark_->setText(MarkNameAt(text.Doc(), text.Selection()));
+  if (copies_ != nullptr) copies_->Look();
+}
+
+void MainWindow::TextLeaves() {
+  if (copies_ != nullptr) copies_->TextLeaves();
 }
 
 void MainWindow::ShowWindow() {

@@ -18,6 +18,8 @@ class QScrollArea;
 
 namespace quill {
 
+class UnsavedCopies;
+
 class MainWindow final : public QMainWindow {
  public:
   // The program must outlive the window.
@@ -26,6 +28,8 @@ class MainWindow final : public QMainWindow {
 
   // What a file dropped on the window does, given its path.
   void OnDroppedFile(std::function<void(const QString&)> open) { openFile_ = std::move(open); }
+  // From now on they, if any, are told what happens to the text.
+  void Inform(UnsavedCopies* copies) { copies_ = copies; }
 
   // The stored size and the menu bar. The window begins with it where the screen is large enough.
   QSize sizeHint() const override;
@@ -49,6 +53,7 @@ class MainWindow final : public QMainWindow {
   QWidget& WidgetOf(const Control& control) const;
 
   void Show();
+  void TextLeaves();
   void ShowWindow();
   void ShowFocus();
   void Arrange();
@@ -75,6 +80,7 @@ class MainWindow final : public QMainWindow {
   QWidget* desk_;
   QLabel* mark_ = nullptr;        // tells the mark at the caret in words
   Control* lastFocus_ = nullptr;  // where Tab goes on from
+  UnsavedCopies* copies_ = nullptr;
 };
 
 }  // namespace quill

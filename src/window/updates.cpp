@@ -4,7 +4,8 @@
 
 namespace quill {
 
-Updates::Updates(Form1& form, std::function<void()> show) : form_(form), show_(std::move(show)) {
+Updates::Updates(Form1& form, std::function<void()> show, std::function<void()> leaves)
+    : form_(form), show_(std::move(show)), leaves_(std::move(leaves)) {
   form_.SetWatcher(this);
 }
 

@@ -12,8 +12,8 @@ namespace quill {
 
 class Updates final : public Watcher {
  public:
-  // `show` is called before a dialog opens.
-  Updates(Form1& form, std::function<void()> show);
+  // `show` is called before a dialog opens, `leaves` before another text takes the text's place.
+  Updates(Form1& form, std::function<void()> show, std::function<void()> leaves);
   ~Updates() override;
 
   void Follow(const Control& control, Binder& binder);
@@ -34,6 +34,7 @@ class Updates final : public Watcher {
   void ItemInserted(ListBox& list, int index) override;
   void ItemRemoved(ListBox& list, int index) override;
   void RowChanged(ComboBox& combo, int row) override;
+  void TextLeaves() override { leaves_(); }
   void TextLoaded() override;
   void TextReplaced(Position at, Position removed, Position inserted) override;
   void FormatChanged(Range range) override;
@@ -47,6 +48,7 @@ class Updates final : public Watcher {
 
   Form1& form_;
   std::function<void()> show_;
+  std::function<void()> leaves_;
   std::map<const Control*, Binder*> binders_;
   std::set<Binder*> touched_;
   DocumentBinder* text_ = nullptr;

@@ -154,6 +154,7 @@ void TextSurface::SaveFile(const std::u32string& path) {
   }
   filePath_ = path;
   fileContent_ = HashOf(bytes);
+  savedChanges_ = document_.Changes();
 }
 
 // By content: times and sizes of files can be the same before and after a change.
@@ -169,7 +170,9 @@ void TextSurface::Reveal() { Form().TheWatcher().RevealAsked(true); }
 void TextSurface::LeaveView() { Form().TheWatcher().RevealAsked(false); }
 
 void TextSurface::SetDocument(Document document) {
+  Form().TheWatcher().TextLeaves();
   document_ = std::move(document);
+  savedChanges_ = document_.Changes();
   history_.Clear();
   remembered_ = {};
   selection_ = {};

@@ -82,6 +82,10 @@ class TextSurface : public Control {
   void Reveal();
   void LeaveView();
 
+  // Whether the text was changed since it was last loaded or saved. Counted, not compared: a change
+  // that was undone counts.
+  bool HasUnsavedChanges() const { return document_.Changes() != savedChanges_; }
+
   // The first position in [from, text's end) of a character that has, or lacks, a colour; the
   // text's length where there is none.
   Position FindColour(Position from, Colour colour) const;
@@ -124,6 +128,7 @@ class TextSurface : public Control {
   std::u32string filePath_;
   std::u32string sourcePath_;
   std::size_t fileContent_ = 0;  // a hash of what the file held when last loaded or saved
+  std::uint64_t savedChanges_ = 0;  // what the document counted then
 };
 
 }  // namespace quill

@@ -33,6 +33,8 @@ class Watcher {
   virtual void ItemInserted(ListBox& /*list*/, int /*index*/) {}
   virtual void ItemRemoved(ListBox& /*list*/, int /*index*/) {}
   virtual void RowChanged(ComboBox& /*combo*/, int /*row*/) {}
+  // Another text is about to take the place of this one: the last look at it.
+  virtual void TextLeaves() {}
   // The whole text is another one.
   virtual void TextLoaded() {}
   // `inserted` characters stand at `at` where `removed` characters stood.
