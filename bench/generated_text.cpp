@@ -69,7 +69,7 @@ class Writer {
 
   void Paragraph() {
     ++paragraphs_;
-    out_ += kParagraph;
+    if (kind_ != Kind::kDense) out_ += kParagraph;
     if (kind_ == Kind::kLaidOut && paragraphs_ % 8 == 3) return Row();
     if (kind_ == Kind::kLaidOut && paragraphs_ % 8 == 6) out_ += kLabel;
     if (kind_ == Kind::kLaidOut && paragraphs_ % 32 == 1) Character(kPicture);

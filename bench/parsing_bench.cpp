@@ -38,7 +38,7 @@ class Parsing {
   std::int64_t MarkedCharacters() {
     const Document& document = Form().RichTextBox1.Doc();
     std::int64_t marked = 0;
-    for (const FormatId id : document.FormatIds()) marked += document.Formats()[id].now.bold;
+    for (Position at = 0; at < document.Length(); ++at) marked += document.At(at).bold ? 1 : 0;
     return marked;
   }
 

@@ -11,6 +11,7 @@
 #include "rtf/reader.h"
 #include "rtf/writer.h"
 #include "text/marks.h"
+#include "words.h"
 
 namespace quill::bench {
 namespace {
@@ -54,23 +55,9 @@ void SaveUnchanged(benchmark::State& state, Kind kind) {
   Save(state, Loaded(kind, state.range(0)));
 }
 
-// Marks every second word of a text that had no marks.
-void MarkWords(Document& document) {
-  const std::u32string text = document.Text();
-  bool marked = false;
-  Position begin = 0;
-  while (begin < document.Length()) {
-    auto end = static_cast<Position>(text.find(U' ', static_cast<std::size_t>(begin)));
-    if (end < 0) end = document.Length();
-    if (marked) document.Apply({begin, end}, {.colour = kMarkedB, .bold = true});
-    marked = !marked;
-    begin = end + 1;
-  }
-}
-
 void SaveNewMarks(benchmark::State& state) {
   Document document = Loaded(Kind::kProse, state.range(0));
-  MarkWords(document);
+  document.Apply(EverySecondWord(document.Text()), {.colour = kMarkedB, .bold = true});
   Save(state, document);
 }
 

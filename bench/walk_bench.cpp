@@ -82,7 +82,7 @@ void EverySecondWordMarked(benchmark::State& state) {
 
 // A plain pass over as many format numbers.
 void PlainPass(benchmark::State& state) {
-  const std::vector<FormatId> formats(static_cast<std::size_t>(state.range(0)), 3);
+  const std::vector<std::uint16_t> formats(static_cast<std::size_t>(state.range(0)), 3);
   for (auto _ : state) {
     benchmark::DoNotOptimize(std::accumulate(formats.begin(), formats.end(), 0U));
   }

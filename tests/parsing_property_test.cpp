@@ -135,16 +135,16 @@ class Dice {
   Document Text(const Chars& letters) {
     const Chars text = Word(letters, Below(4) == 0 ? 3 : 60);
     FormatTable formats;
-    std::vector<FormatId> ids;
+    FormatNumbers ids;
     while (ids.size() < text.size()) {
       constexpr Colour kColours[] = {0, kMarkedA, kMarkedB, kFoundA};
       constexpr Twips kOffsets[] = {0, 0, 0, 25, 30, -20};
       Format format;
       format.now = {kColours[Below(4)], Below(2) == 0, Below(3) == 0, kOffsets[Below(6)]};
       const std::size_t stretch = std::min(1 + Below(9), text.size() - ids.size());
-      ids.insert(ids.end(), stretch, formats.Add(format));
+      ids.Append(stretch, formats.Add(format));
     }
-    std::vector<Origin> origins(text.size());
+    OriginList origins(text.size());
     return {Source(), {}, std::move(formats), text, std::move(ids), std::move(origins), 0};
   }
 

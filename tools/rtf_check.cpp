@@ -89,10 +89,7 @@ std::string ListOf(const Document& document, const std::vector<Range>& marks) {
   for (const Range& mark : marks) {
     const Attributes& a = document.At(mark.begin);
     list << mark.begin << ' ' << mark.end << ' ' << a.colour << ' ' << a.bold << ' ' << a.underline
-         << ' ' << a.offset << ' '
-         << ToUtf8(document.Text().substr(static_cast<std::size_t>(mark.begin),
-                                          static_cast<std::size_t>(mark.Length())))
-         << '\n';
+         << ' ' << a.offset << ' ' << ToUtf8(document.Text(mark)) << '\n';
   }
   return list.str();
 }

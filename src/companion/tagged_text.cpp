@@ -14,9 +14,9 @@ namespace {
 
 std::vector<RaisedRun> RaisedRunsOf(const Document& document) {
   std::vector<RaisedRun> runs;
-  const std::vector<FormatId>& ids = document.FormatIds();
+  const FormatNumbers& ids = document.FormatIds();
   for (std::size_t begin = 0, end = 0; begin < ids.size(); begin = end) {
-    while (end < ids.size() && ids[end] == ids[begin]) ++end;
+    end = ids.EndOfStretch(begin, ids.size());
     const Attributes& look = document.Formats()[ids[begin]].now;
     if (look.offset <= 0) continue;
     const Range range{static_cast<Position>(begin), static_cast<Position>(end)};

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "disk/statement_failed.h"
+#include "text/large_pages.h"
 
 namespace quill {
 namespace {
@@ -63,7 +64,10 @@ std::string Descriptor::ReadAll(std::size_t most) const {
   const auto expected = static_cast<std::size_t>(std::max<off_t>(Status().st_size, 0));
   if (expected > most) FailDisk(name_, "read", "it is too large");
   // One byte of room more than expected tells the file's end without another step.
-  std::string bytes(expected + 1, '\0');
+  std::string bytes;
+  bytes.reserve(expected + 1);
+  UseLargePages(bytes.data(), expected);
+  bytes.resize(expected + 1);
   std::size_t got = 0;
   for (;;) {
     const ssize_t count =

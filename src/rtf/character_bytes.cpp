@@ -30,8 +30,7 @@ bool LacksFallback(std::string_view bytes, std::uint32_t fallback) {
 }  // namespace
 
 std::string_view CharacterBytes::Of(std::size_t character) const {
-  const Origin& origin = document_.Origins()[character];
-  return std::string_view(document_.GetSource().bytes).substr(origin.begin, origin.length);
+  return document_.BytesOf(static_cast<Position>(character));
 }
 
 bool CharacterBytes::IsUnfinished(std::size_t character) const {

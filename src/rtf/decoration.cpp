@@ -20,7 +20,7 @@ constexpr std::size_t kMostCells = 64;
 // The bytes between the character before a paragraph and its first one.
 std::string_view InFrontOf(const Document& document, Position paragraph) {
   const auto at = static_cast<std::size_t>(paragraph);
-  const std::vector<Origin>& origins = document.Origins();
+  const OriginList& origins = document.Origins();
   const std::size_t begin = at > 0 ? origins[at - 1].end() : 0;
   const std::size_t end = origins[at].begin;
   if (begin >= end) return {};

@@ -4,6 +4,13 @@
 #include <utility>
 
 namespace quill::rtf {
+
+MarkGroupFinder::MarkGroupFinder(std::size_t bytes) {
+  // A mark on a letter, and a blank behind it. Only what no save writes has more groups.
+  constexpr std::size_t kShortest = 12;
+  found_.reserve(bytes / kShortest);
+}
+
 void MarkGroupFinder::Open(Offset at, const Attributes& inForce) {
   Characters();
   if (open_.size() == kDeepest) open_.clear();

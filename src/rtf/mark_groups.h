@@ -12,6 +12,9 @@ namespace quill::rtf {
 // Told of everything that a reader meets, in order.
 class MarkGroupFinder {
  public:
+  // `bytes` is the size of the file.
+  explicit MarkGroupFinder(std::size_t bytes);
+
   void Open(Offset at, const Attributes& inForce);
   // A word that sets attributes and nothing else.
   void Word(const AttributeChange& change, Offset end);

@@ -22,10 +22,6 @@ struct MarkTree {
   Span inside;  // its characters
 };
 
-// The first character from `from` on whose bytes begin behind an offset; their number where there
-// is none. It is quick where that is near.
-std::size_t FirstBehind(const std::vector<Origin>& origins, Offset offset, std::size_t from);
-
 // Asks about one document, which must outlive it.
 class MarkTrees {
  public:
@@ -46,12 +42,13 @@ class MarkTrees {
   MarkTree TreeAt(std::size_t group, std::size_t from) const;
 
   const std::vector<MarkGroup>& groups_;
-  const std::vector<Origin>& origins_;
+  const OriginList& origins_;
 };
 
 template <class Wanted>
 std::vector<MarkTree> MarkTrees::Holding(Wanted wanted) const {
   std::vector<MarkTree> found;
+  found.reserve(groups_.size());
   MarkTree tree;
   for (std::size_t at = 0; at < groups_.size(); at = tree.end) {
     tree = TreeAt(at, tree.inside.end);

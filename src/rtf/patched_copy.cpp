@@ -5,6 +5,7 @@
 
 #include "rtf/ascii.h"
 #include "rtf/lexer.h"
+#include "text/large_pages.h"
 
 namespace quill::rtf {
 namespace {
@@ -58,6 +59,7 @@ bool EndsInData(std::string_view bytes) {
 PatchedCopy::PatchedCopy(std::string_view source, std::vector<Patch> patches)
     : source_(source), patches_(std::move(patches)) {
   out_.reserve(source.size() + source.size() / 16 + 1024);
+  UseLargePages(out_.data(), source.size());
 }
 
 bool PatchedCopy::OnlyLineEndsUpTo(Offset to) const {

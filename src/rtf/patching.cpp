@@ -30,7 +30,7 @@ class Patcher {
  private:
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
-    return IsChanged(character) || origins_[character].IsTyped() ||
+    return IsChanged(character) || origins_.IsTyped(character) ||
            (IsTyped(character + 1) && IsLooseObject(character));
   }
   // Whether an object takes what is put behind it for its data.
@@ -38,9 +38,10 @@ class Patcher {
     return bytesOf_.AreBareObject(character) || bytesOf_.OpenGroups(character) > 0;
   }
   bool IsTyped(std::size_t character) const {
-    return character < origins_.size() && origins_[character].IsTyped();
+    return character < origins_.size() && origins_.IsTyped(character);
   }
   const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
+  bool HasChanged() const;
   void NumberColours();
   std::vector<Patch> Patches() const;
 
@@ -69,8 +70,8 @@ class Patcher {
 
   const Document& document_;
   const Source& source_;
-  const std::vector<FormatId>& formatIds_;
-  const std::vector<Origin>& origins_;
+  const FormatNumbers& formatIds_;
+  const OriginList& origins_;
   const CharacterBytes bytesOf_;
   const MarkTrees trees_;
   std::vector<Attributes> targets_;  // of each format, as the file is to have it
@@ -109,11 +110,7 @@ Patcher::Patcher(const Document& document)
 }
 
 std::string Patcher::Take() {
-  const bool nothing =
-      document_.Cuts().empty() &&
-      std::none_of(origins_.begin(), origins_.end(), [](const Origin& o) { return o.IsTyped(); }) &&
-      std::none_of(formatIds_.begin(), formatIds_.end(),
-                   [&](FormatId id) { return changed_[id] != 0; });
+  const bool nothing = document_.Cuts().empty() && !origins_.HasTyped() && !HasChanged();
   if (nothing) return source_.bytes;
 
   touched_ = trees_.Holding([&](std::size_t character) { return IsChanged(character); });
@@ -135,10 +132,21 @@ std::string Patcher::Take() {
   return out_.Take();
 }
 
+bool Patcher::HasChanged() const {
+  if (std::find(changed_.begin(), changed_.end(), 1) == changed_.end()) return false;
+  const std::size_t size = formatIds_.size();
+  std::size_t at = 0;
+  while (at < size && !IsChanged(at)) at = formatIds_.EndOfStretch(at, size);
+  return at < size;
+}
+
 // Every colour that will be written gets its number before the table is copied.
 void Patcher::NumberColours() {
   std::vector<bool> used(targets_.size());
-  for (const FormatId id : formatIds_) used[id] = used[id] || changed_[id] != 0;
+  const std::size_t size = formatIds_.size();
+  for (std::size_t at = 0; at < size; at = formatIds_.EndOfStretch(at, size)) {
+    used[formatIds_[at]] = IsChanged(at);
+  }
   for (const MarkTree& tree : touched_) {
     for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) used[formatIds_[i]] = true;
   }
@@ -152,7 +160,7 @@ std::vector<Patch> Patcher::Patches() const {
   std::vector<Patch> patches;
   std::size_t kept = 0;  // characters in front of the cut
   for (const auto& [begin, end] : document_.Cuts()) {
-    kept = FirstBehind(origins_, begin, kept);
+    kept = origins_.FirstBehind(begin, kept);
     Patch patch{begin, end, std::string(bytesOf_.Inside(begin)), false};
     if (!patches.empty() && patches.back().end == begin) {
       patch.behindText = patches.back().behindText;

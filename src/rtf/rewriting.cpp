@@ -105,7 +105,7 @@ class Rewriter {
 };
 
 std::string Rewriter::Take() {
-  const std::vector<FormatId>& ids = document_.FormatIds();
+  const FormatNumbers& ids = document_.FormatIds();
   for (std::size_t i = 0; i < ids.size(); ++i) {
     const Format& format = document_.Formats()[ids[i]];
     if (i == 0 || ids[i] != ids[i - 1]) Open(format);
@@ -123,9 +123,8 @@ void Rewriter::Open(const Format& format) {
 }
 
 void Rewriter::Put(std::size_t character, const FontFace& face) {
-  const Origin& origin = document_.Origins()[character];
-  const std::string_view bytes =
-      std::string_view(document_.GetSource().bytes).substr(origin.begin, origin.length);
+  const Origin origin = document_.Origins()[character];
+  const std::string_view bytes = document_.BytesOf(static_cast<Position>(character));
   const char32_t c = document_.Text()[character];
   if (c == kObject && AreWholeGroups(bytes)) {
     body_ += "{";

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "text/large_pages.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -13,13 +14,12 @@ bool IsLowHalf(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 
 }  // namespace
 
-TextBuilder::TextBuilder(StateStack& states, std::size_t bytes) : states_(states) {
-  // Dense files have nearly a character a byte, and grow once from here; memory that stays
-  // untouched costs nothing.
-  const std::size_t expected = bytes / 2 + 16;
-  text_.reserve(expected);
-  formats_.reserve(expected);
-  origins_.reserve(expected);
+// No file has more characters than bytes: nothing is ever moved to grow. Memory that stays
+// untouched costs nothing.
+TextBuilder::TextBuilder(StateStack& states, std::size_t bytes) : states_(states), bytes_(bytes) {
+  text_.reserve(bytes);
+  formats_.Reserve(bytes);
+  origins_.Reserve(bytes);
 }
 
 void TextBuilder::Add(char32_t character, Offset begin, Offset end, Origin::Kind kind) {
@@ -46,14 +46,23 @@ void TextBuilder::AddBytes(std::string_view bytes, Offset begin) {
 }
 
 void TextBuilder::PutAscii(std::string_view bytes, Offset begin) {
+  if (text_.size() >= nextLook_) LookAhead(begin);
   const std::size_t first = text_.size();
   text_.resize(first + bytes.size());
-  origins_.resize(first + bytes.size());
-  formats_.resize(first + bytes.size(), states_.Format());
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    text_[first + i] = static_cast<unsigned char>(bytes[i]);
-    origins_[first + i] = {static_cast<Offset>(begin + i), 1, Origin::kPlain};
-  }
+  std::copy(bytes.begin(), bytes.end(), text_.begin() + static_cast<std::ptrdiff_t>(first));
+  formats_.Append(bytes.size(), states_.Format());
+  origins_.AppendBytes(bytes.size(), begin);
+}
+
+// Large pages are taken where characters will fill them, which is told from those read so far.
+void TextBuilder::LookAhead(Offset read) {
+  constexpr std::size_t kStep = std::size_t{1} << 17U;
+  // Before there is anything to go by, few.
+  const std::size_t expected = nextLook_ == 0 ? bytes_ / 4 : text_.size() * bytes_ / read;
+  UseLargePages(text_.data(), expected * sizeof(char32_t));
+  formats_.Expect(expected);
+  origins_.Expect(expected);
+  nextLook_ = text_.size() + kStep;
 }
 
 void TextBuilder::AddByte(unsigned char byte, Offset begin, Offset end) {
@@ -141,7 +150,7 @@ void TextBuilder::EndPair() {
   highHalf_ = 0;
   PutBroken(pairBegin_, pairEnd_);
   // Words may have come since.
-  formats_.back() = halfFormat_;
+  formats_.Fill(Size() - 1, Size(), halfFormat_);
 }
 
 void TextBuilder::PutBroken(Offset begin, Offset end) {
@@ -150,10 +159,11 @@ void TextBuilder::PutBroken(Offset begin, Offset end) {
 }
 
 void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind kind) {
+  if (text_.size() >= nextLook_) LookAhead(begin);
   text_ += character;
-  formats_.push_back(states_.Format());
+  formats_.Append(1, states_.Format());
   if (begin == reachesAt_) begin = reachesFrom_;
-  origins_.push_back({begin, end - begin, kind});
+  origins_.Append({begin, end - begin, kind});
 }
 
 }  // namespace quill::rtf

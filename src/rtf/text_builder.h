@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "rtf/state.h"
+#include "text/format_numbers.h"
+#include "text/origin_list.h"
 #include "text/source.h"
 
 namespace quill::rtf {
@@ -34,7 +36,7 @@ class TextBuilder {
   // If the next character begins at `at`, what stands between `from` and there belongs to it.
   void ReachBack(Offset from, Offset at);
   // The last character reaches to `end`.
-  void ExtendLast(Offset end) { origins_.back().length = end - origins_.back().begin; }
+  void ExtendLast(Offset end) { origins_.ExtendLast(end); }
 
   // Whether the last byte leads a multi-byte character that is not whole yet.
   bool AwaitsByte() const { return !sequence_.empty(); }
@@ -47,13 +49,14 @@ class TextBuilder {
   // Whether no character was broken off, or its halves parted.
   bool IsWhole() const { return isWhole_ && splitPairs_.empty(); }
   std::u32string TakeText() { return std::move(text_); }
-  std::vector<FormatId> TakeFormats() { return std::move(formats_); }
-  std::vector<Origin> TakeOrigins() { return std::move(origins_); }
+  FormatNumbers TakeFormats() { return std::move(formats_); }
+  OriginList TakeOrigins() { return std::move(origins_); }
   std::vector<SplitPair> TakeSplitPairs() { return std::move(splitPairs_); }
 
  private:
   void Put(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
   void PutAscii(std::string_view bytes, Offset begin);
+  void LookAhead(Offset read);
   void EndSequence();
   void EndPair();
   void PutBroken(Offset begin, Offset end);
@@ -63,8 +66,10 @@ class TextBuilder {
   StateStack& states_;
   std::vector<SplitPair> splitPairs_;
   std::u32string text_;
-  std::vector<FormatId> formats_;
-  std::vector<Origin> origins_;
+  FormatNumbers formats_;
+  OriginList origins_;
+  std::size_t bytes_;         // of the file
+  std::size_t nextLook_ = 0;  // at that many characters, guess anew how many will come
 
   std::string sequence_;  // bytes of a character that is not whole yet
   Offset sequenceBegin_ = 0;

@@ -24,7 +24,8 @@ TextReader::TextReader(std::string bytes, ColourTable known)
     : bytes_(std::move(bytes)),
       lexer_(bytes_, static_cast<Offset>(bytes_.find('{'))),
       states_(formats_, FirstState()),
-      text_(states_, bytes_.size()) {
+      text_(states_, bytes_.size()),
+      marks_(bytes_.size()) {
   tables_.standardPage = states_.Now().page;
   tableFound_ = !known.entries.empty();
   tables_.colours = std::move(known);

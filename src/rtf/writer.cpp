@@ -23,8 +23,8 @@ bool SameInFile(const Format& saved, const Format& format) {
 bool ReadsAs(const Document& document, std::string bytes) {
   const std::optional<Document> saved = Read(std::move(bytes));
   if (!saved || saved->Text() != document.Text()) return false;
-  const std::vector<FormatId>& ids = document.FormatIds();
-  const std::vector<FormatId>& savedIds = saved->FormatIds();
+  const FormatNumbers& ids = document.FormatIds();
+  const FormatNumbers& savedIds = saved->FormatIds();
   for (std::size_t i = 0; i < ids.size(); ++i) {
     const bool known = i > 0 && ids[i] == ids[i - 1] && savedIds[i] == savedIds[i - 1];
     if (!known && !SameInFile(saved->Formats()[savedIds[i]], document.Formats()[ids[i]])) {

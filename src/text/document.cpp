@@ -1,6 +1,5 @@
 #include "text/document.h"
 
-#include <algorithm>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -12,27 +11,12 @@ namespace {
 
 constexpr FormatId kUnknown = std::numeric_limits<FormatId>::max();
 
-// The first place from which the numbers differ from `number`. The blocks let the compiler compare
-// many numbers at once.
-std::size_t EndOfStretch(const std::vector<FormatId>& ids, std::size_t from, std::size_t to,
-                         FormatId number) {
-  constexpr std::size_t kBlock = 32;
-  while (to - from >= kBlock) {
-    FormatId differs = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) differs |= ids[from + i] ^ number;
-    if (differs != 0) break;
-    from += kBlock;
-  }
-  while (from < to && ids[from] == number) ++from;
-  return from;
-}
-
 template <class Wanted>
-Position FindFormat(const std::vector<FormatId>& ids, Range range, Wanted wanted) {
+Position FindFormat(const FormatNumbers& ids, Range range, Wanted wanted) {
   const auto end = static_cast<std::size_t>(range.end);
   for (auto at = static_cast<std::size_t>(range.begin); at < end;) {
     if (wanted(ids[at])) return static_cast<Position>(at);
-    at = EndOfStretch(ids, at, end, ids[at]);
+    at = ids.EndOfStretch(at, end);
   }
   return range.end;
 }
@@ -49,25 +33,13 @@ void AddTo(std::vector<Range>& ranges, Range range) {
 bool EndsCell(const Origin& origin) { return origin.kind == Origin::kCellEnd; }
 bool EndsRow(const Origin& origin) { return origin.kind == Origin::kRowEnd; }
 
-template <class T>
-void Splice(std::vector<T>& into, Range range, const std::vector<T>& items) {
-  const auto first = into.begin() + range.begin;
-  const std::size_t common = std::min(items.size(), static_cast<std::size_t>(range.Length()));
-  const auto copied = std::copy_n(items.begin(), common, first);
-  if (items.size() > common) {
-    into.insert(copied, items.begin() + static_cast<std::ptrdiff_t>(common), items.end());
-  } else {
-    into.erase(copied, into.begin() + range.end);
-  }
-}
-
 }  // namespace
 
 Document::Document() = default;
 
 Document::Document(Source source, std::vector<FontFace> fonts, FormatTable formats,
-                   std::u32string text, std::vector<FormatId> formatIds,
-                   std::vector<Origin> origins, FormatId endFormat)
+                   std::u32string text, FormatNumbers formatIds, OriginList origins,
+                   FormatId endFormat)
     : source_(std::move(source)),
       fonts_(std::move(fonts)),
       formats_(std::move(formats)),
@@ -75,6 +47,15 @@ Document::Document(Source source, std::vector<FontFace> fonts, FormatTable forma
       formatIds_(std::move(formatIds)),
       origins_(std::move(origins)),
       endFormat_(endFormat) {}
+
+std::u32string_view Document::Text(Range range) const {
+  return std::u32string_view(text_).substr(Index(range.begin), Index(range.Length()));
+}
+
+std::string_view Document::BytesOf(Position at) const {
+  const Origin origin = origins_[Index(at)];
+  return std::string_view(source_.bytes).substr(origin.begin, origin.length);
+}
 
 Position Document::FindColour(Range range, Colour colour) const {
   return FindFormat(formatIds_, range,
@@ -93,6 +74,7 @@ std::vector<Range> Document::Apply(Range range, const AttributeChange& change) {
 std::vector<Range> Document::Apply(const std::vector<Range>& ranges,
                                    const AttributeChange& change) {
   std::vector<Range> changed;
+  changed.reserve(ranges.size());
   // The new number of every format met so far. Those that come of the change are not met again.
   std::vector<FormatId> renamed(formats_.Size(), kUnknown);
   const auto renaming = [&](FormatId old) {
@@ -106,11 +88,10 @@ std::vector<Range> Document::Apply(const std::vector<Range>& ranges,
   for (const Range& range : ranges) {
     for (std::size_t at = Index(range.begin); at < Index(range.end);) {
       const FormatId old = formatIds_[at];
-      const std::size_t stop = EndOfStretch(formatIds_, at, Index(range.end), old);
+      const std::size_t stop = formatIds_.EndOfStretch(at, Index(range.end));
       const FormatId now = renaming(old);
       if (now != old) {
-        std::fill(formatIds_.begin() + static_cast<std::ptrdiff_t>(at),
-                  formatIds_.begin() + static_cast<std::ptrdiff_t>(stop), now);
+        formatIds_.Fill(at, stop, now);
         AddTo(changed, {static_cast<Position>(at), static_cast<Position>(stop)});
       }
       at = stop;
@@ -151,20 +132,21 @@ std::vector<Cell> Document::Exchange(Range range, const std::vector<Cell>& cells
   gone.reserve(Index(range.Length()));
   for (std::size_t i = Index(range.begin); i < Index(range.end); ++i) {
     gone.push_back({text_[i], formatIds_[i], origins_[i]});
-    if (!origins_[i].IsTyped()) cuts_[origins_[i].begin] = origins_[i].end();
+    const Origin& origin = gone.back().origin;
+    if (!origin.IsTyped()) cuts_[origin.begin] = origin.end();
   }
   std::u32string characters;
-  std::vector<FormatId> ids;
-  std::vector<Origin> origins;
+  FormatNumbers ids;
+  OriginList origins;
   for (const Cell& cell : cells) {
     characters += cell.character;
-    ids.push_back(cell.format);
-    origins.push_back(cell.origin);
+    ids.Append(1, cell.format);
+    origins.Append(cell.origin);
     if (!cell.origin.IsTyped()) cuts_.erase(cell.origin.begin);
   }
   text_.replace(Index(range.begin), Index(range.Length()), characters);
-  Splice(formatIds_, range, ids);
-  Splice(origins_, range, origins);
+  formatIds_.Replace(Index(range.begin), Index(range.end), ids);
+  origins_.Replace(Index(range.begin), Index(range.end), origins);
   ++changes_;
   return gone;
 }
@@ -172,8 +154,7 @@ std::vector<Cell> Document::Exchange(Range range, const std::vector<Cell>& cells
 Position Document::RowBegin(Position rowEnd) const {
   Position at = rowEnd;
   while (at > 0) {
-    const Origin& before = origins_[Index(at - 1)];
-    if (EndsRow(before)) break;
+    if (EndsRow(origins_[Index(at - 1)])) break;
     const bool paragraphEnd = text_[Index(at - 1)] == kParagraphEnd;
     if (paragraphEnd && !FormatAt(at - 1).paragraph.inTable) break;
     --at;
@@ -185,7 +166,7 @@ bool Document::CanDelete(Range range) const {
   // Rows are taken from the back: whatever cell ends lie outside a whole row may not go.
   Position at = range.end;
   while (at > range.begin) {
-    const Origin& origin = origins_[Index(at - 1)];
+    const Origin origin = origins_[Index(at - 1)];
     if (EndsCell(origin)) return false;
     if (EndsRow(origin)) {
       const Position begin = RowBegin(at - 1);
@@ -203,7 +184,8 @@ void Document::Check() const {
     throw std::logic_error("the arrays of the text differ in length");
   }
   Offset reached = 0;
-  for (const Origin& origin : origins_) {
+  for (std::size_t i = 0; i < origins_.size(); ++i) {
+    const Origin origin = origins_[i];
     if (origin.begin < reached) throw std::logic_error("characters stand in another order");
     reached = origin.end();
     if (!origin.IsTyped() && cuts_.contains(origin.begin)) {
@@ -211,8 +193,9 @@ void Document::Check() const {
     }
   }
   if (reached > source_.bytes.size()) throw std::logic_error("a character beyond the source");
-  for (const FormatId id : formatIds_) {
-    if (id >= formats_.Size()) throw std::logic_error("a format that is not in the table");
+  for (std::size_t i = 0; i < formatIds_.size(); ++i) {
+    if (formatIds_[i] >= formats_.Size())
+      throw std::logic_error("a format that is not in the table");
   }
 }
 

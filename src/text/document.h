@@ -14,6 +14,8 @@
 #include <vector>
 
 #include "text/format.h"
+#include "text/format_numbers.h"
+#include "text/origin_list.h"
 #include "text/source.h"
 
 namespace quill {
@@ -50,18 +52,21 @@ class Document {
   // An empty text without a source; rtf/ makes the documents that can be saved.
   Document();
   Document(Source source, std::vector<FontFace> fonts, FormatTable formats, std::u32string text,
-           std::vector<FormatId> formatIds, std::vector<Origin> origins, FormatId endFormat);
+           FormatNumbers formatIds, OriginList origins, FormatId endFormat);
 
   Position Length() const { return static_cast<Position>(text_.size()); }
   const std::u32string& Text() const { return text_; }
-  const std::vector<FormatId>& FormatIds() const { return formatIds_; }
-  const std::vector<Origin>& Origins() const { return origins_; }
+  std::u32string_view Text(Range range) const;
+  const FormatNumbers& FormatIds() const { return formatIds_; }
+  const OriginList& Origins() const { return origins_; }
   const FormatTable& Formats() const { return formats_; }
   const std::vector<FontFace>& Fonts() const { return fonts_; }
   const Source& GetSource() const { return source_; }
   // Bytes of deleted characters, by their begin: the end of each stretch.
   const std::map<Offset, Offset>& Cuts() const { return cuts_; }
 
+  // The bytes of the source from which a character was read; none for a typed one.
+  std::string_view BytesOf(Position at) const;
   const Format& FormatAt(Position at) const { return formats_[formatIds_[Index(at)]]; }
   const Attributes& At(Position at) const { return FormatAt(at).now; }
 
@@ -107,8 +112,8 @@ class Document {
   std::vector<FontFace> fonts_;
   FormatTable formats_;
   std::u32string text_;
-  std::vector<FormatId> formatIds_;
-  std::vector<Origin> origins_;
+  FormatNumbers formatIds_;
+  OriginList origins_;
   std::map<Offset, Offset> cuts_;
   FormatId endFormat_ = 0;  // of what stands behind the last character
   std::uint64_t changes_ = 0;

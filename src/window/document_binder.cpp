@@ -44,14 +44,11 @@ struct Piece {
 // Splits a range where the format changes.
 std::vector<Piece> PiecesOf(const Document& document, Range range) {
   std::vector<Piece> pieces;
-  const std::vector<FormatId>& ids = document.FormatIds();
-  Position at = range.begin;
-  while (at < range.end) {
-    const auto first = ids.begin() + at;
-    const auto last =
-        std::find_if(first, ids.begin() + range.end, [&](FormatId id) { return id != *first; });
-    const Position end = last - ids.begin();
-    pieces.push_back({{at, end}, *first});
+  const FormatNumbers& ids = document.FormatIds();
+  const auto last = static_cast<std::size_t>(range.end);
+  for (auto at = static_cast<std::size_t>(range.begin); at < last;) {
+    const std::size_t end = ids.EndOfStretch(at, last);
+    pieces.push_back({{static_cast<Position>(at), static_cast<Position>(end)}, ids[at]});
     at = end;
   }
   return pieces;
@@ -132,10 +129,7 @@ void DocumentBinder::ShowWhole() {
   view_.Exchange(std::move(document));
 }
 
-std::u32string_view DocumentBinder::Part(Range range) const {
-  return std::u32string_view(text_.Text())
-      .substr(static_cast<std::size_t>(range.begin), static_cast<std::size_t>(range.Length()));
-}
+std::u32string_view DocumentBinder::Part(Range range) const { return text_.Doc().Text(range); }
 
 void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
   for (const Piece& piece : PiecesOf(text_.Doc(), range)) {

@@ -323,10 +323,10 @@ void DocumentView::Paste() {
 
 QMimeData* DocumentView::createMimeDataFromSelection() const {
   const QTextCursor cursor = textCursor();
-  const auto begin = static_cast<std::size_t>(positions_.ToModel(cursor.selectionStart()));
-  const auto end = static_cast<std::size_t>(positions_.ToModel(cursor.selectionEnd()));
+  const Range range{positions_.ToModel(cursor.selectionStart()),
+                    positions_.ToModel(cursor.selectionEnd())};
   auto* const data = new QMimeData;
-  data->setText(ToQt(std::u32string_view(text_.Text()).substr(begin, end - begin)));
+  data->setText(ToQt(text_.Doc().Text(range)));
   return data;
 }
 

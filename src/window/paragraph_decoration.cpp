@@ -43,7 +43,7 @@ std::size_t CellOf(const Document& document, Position paragraph) {
   constexpr Position kMostCounted = 4000;
   std::size_t cell = 0;
   for (Position at = paragraph; at > 0; --at) {
-    const Origin& origin = document.Origins()[static_cast<std::size_t>(at - 1)];
+    const Origin origin = document.Origins()[static_cast<std::size_t>(at - 1)];
     if (origin.kind == Origin::kRowEnd || !document.FormatAt(at - 1).paragraph.inTable) break;
     if (origin.kind == Origin::kCellEnd) ++cell;
     if (paragraph - at == kMostCounted) return 0;

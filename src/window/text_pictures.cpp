@@ -79,10 +79,8 @@ std::string_view TextPictures::GroupAt(const QTextDocument& shown, int position)
   }
   const Position at = positions_.ToModel(position);
   if (at < 0 || at >= document_.Length()) return {};
-  const auto index = static_cast<std::size_t>(at);
-  if (document_.Text()[index] != kObject) return {};
-  const Origin& origin = document_.Origins()[index];
-  return std::string_view(document_.GetSource().bytes).substr(origin.begin, origin.length);
+  if (document_.Text()[static_cast<std::size_t>(at)] != kObject) return {};
+  return document_.BytesOf(at);
 }
 
 rtf::PictureSize TextPictures::SizeOf(std::string_view group) {

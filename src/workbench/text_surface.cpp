@@ -16,12 +16,11 @@ namespace {
 // The one value of an attribute over a range, or nothing where it varies.
 template <class T>
 std::optional<T> Common(const Document& document, Range range, T Attributes::*attribute) {
-  const std::vector<FormatId>& ids = document.FormatIds();
-  const auto first = ids.begin() + range.begin;
-  const auto last = ids.begin() + range.end;
+  const FormatNumbers& ids = document.FormatIds();
+  const auto end = static_cast<std::size_t>(range.end);
   const T value = document.At(range.begin).*attribute;
-  for (auto id = first; id != last; ++id) {
-    if (*id != *first && document.Formats()[*id].now.*attribute != value) return std::nullopt;
+  for (auto at = static_cast<std::size_t>(range.begin); at < end; at = ids.EndOfStretch(at, end)) {
+    if (document.Formats()[ids[at]].now.*attribute != value) return std::nullopt;
   }
   return value;
 }
@@ -43,10 +42,7 @@ AttributeChange AllOf(const Attributes& attributes) {
 TextSurface::TextSurface(Form1& form, std::string_view name)
     : Control(form, name), document_(rtf::Blank()) {}
 
-std::u32string TextSurface::SelText() const {
-  return Text().substr(static_cast<std::size_t>(selection_.begin),
-                       static_cast<std::size_t>(selection_.Length()));
-}
+std::u32string TextSurface::SelText() const { return std::u32string(document_.Text(selection_)); }
 
 void TextSurface::WriteSelStart(Position start) {
   remembered_ = {};
@@ -190,8 +186,7 @@ void TextSurface::TypeOver(std::u32string_view text) {
   if (typed.empty()) return;
   const Attributes attributes = TypingAttributes();
   const Range over = selection_;
-  const std::u32string_view old = std::u32string_view(Text()).substr(
-      static_cast<std::size_t>(over.begin), static_cast<std::size_t>(over.Length()));
+  const std::u32string_view old = document_.Text(over);
   const std::size_t most = std::min(old.size(), typed.size());
   std::size_t head = 0;
   while (head < most && old[head] == typed[head]) ++head;

@@ -49,13 +49,13 @@ std::string Printed(Number number) {
 Document Painted(std::u32string_view text, std::string_view drawing) {
   if (text.size() != drawing.size()) throw std::logic_error("text and drawing differ in length");
   FormatTable formats;
-  std::vector<FormatId> ids;
+  FormatNumbers ids;
   for (const char drawn : drawing) {
     Format format;
     format.now = AttributesOf(drawn);
-    ids.push_back(formats.Add(format));
+    ids.Append(1, formats.Add(format));
   }
-  std::vector<Origin> origins(text.size());
+  OriginList origins(text.size());
   return {Source(),           {}, std::move(formats), std::u32string(text), std::move(ids),
           std::move(origins), 0};
 }

@@ -49,7 +49,7 @@ Json RunsOf(const Document& document) {
     const Attributes& now = document.Formats()[id].now;
     return {now.colour, now.bold, now.underline, now.offset > 0};
   };
-  const std::vector<FormatId>& ids = document.FormatIds();
+  const FormatNumbers& ids = document.FormatIds();
   Json runs = Json::array();
   for (std::size_t begin = 0, end = 0; begin < ids.size(); begin = end) {
     const Shown run = shown(ids[begin]);

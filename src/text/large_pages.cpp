@@ -1,0 +1,25 @@
+#include "text/large_pages.h"
+
+#ifdef __linux__
+#include <sys/mman.h>
+
+#include <cstdint>
+#endif
+
+namespace quill {
+
+#ifdef __linux__
+void UseLargePages(const void* begin, std::size_t bytes) {
+  // That of most machines. Where they are larger, the system takes whole ones of those.
+  constexpr std::uintptr_t kPage = std::uintptr_t{1} << 21U;
+  const auto address = reinterpret_cast<std::uintptr_t>(begin);
+  const std::uintptr_t first = (address + kPage - 1) / kPage * kPage;
+  const std::uintptr_t last = (address + bytes) / kPage * kPage;
+  // It is advice: where it is refused, nothing is lost but time.
+  if (first < last) madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+}
+#else
+void UseLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}
+#endif
+
+}  // namespace quill
