@@ -85,7 +85,8 @@ class Page {
   }
 
   Json Annotation(std::size_t list, const References& references, const Tag& tag) const {
-    Json bodies = Json::array({Description(tag)});
+    Json bodies = Json::array();
+    if (Json description = Description(tag); !description.empty()) bodies.push_back(description);
     if (const auto target = references.TargetOf(tag)) {
       bodies.push_back({{"type", "SpecificResource"},
                         {"purpose", "linking"},
