@@ -1,9 +1,9 @@
 // The search for where tags belong, against trying every way to place them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,14 +18,19 @@ using test::Dice;
 // For each element its place, or -1.
 using Way = std::vector<Position>;
 
+// Where an element can stand; a marked place counts for more than all others.
+struct Choice {
+  Range place;
+  bool marked = false;
+};
+
 // Collects the ways that place most elements, and tells what they agree about.
 class BestWays {
  public:
-  void Add(const Way& way) {
-    const auto placed = std::count_if(way.begin(), way.end(), [](Position p) { return p >= 0; });
-    if (placed < most_) return;
-    if (placed > most_) ways_.clear();
-    most_ = placed;
+  void Add(const Way& way, int weight) {
+    if (weight < most_) return;
+    if (weight > most_) ways_.clear();
+    most_ = weight;
     ways_.push_back(way);
   }
 
@@ -40,26 +45,26 @@ class BestWays {
   }
 
  private:
-  std::ptrdiff_t most_ = 0;
+  int most_ = 0;
   std::vector<Way> ways_ = {};
 };
 
-// Tries all ways to place elements in order: places(i) are those of element i, each of a length.
-Way TryAll(std::size_t count, const std::function<std::vector<Position>(std::size_t)>& places,
-           const std::function<Position(std::size_t)>& length) {
+// Tries all ways to place elements in their order, each at one of its choices.
+Way TryAll(const std::vector<std::vector<Choice>>& choices) {
   BestWays best;
-  Way way(count, -1);
-  const std::function<void(std::size_t, Position)> place = [&](std::size_t i, Position from) {
-    if (i == count) return best.Add(way);
-    place(i + 1, from);
-    for (const Position at : places(i)) {
-      if (at < from) continue;
-      way[i] = at;
-      place(i + 1, at + length(i));
+  Way way(choices.size(), -1);
+  const std::function<void(std::size_t, Position, int)> place = [&](std::size_t i, Position from,
+                                                                    int weight) {
+    if (i == choices.size()) return best.Add(way, weight);
+    place(i + 1, from, weight);
+    for (const Choice& choice : choices[i]) {
+      if (choice.place.begin < from) continue;
+      way[i] = choice.place.begin;
+      place(i + 1, choice.place.end, weight + (choice.marked ? 100 : 1));
       way[i] = -1;
     }
   };
-  place(0, 0);
+  place(0, 0, 0);
   return best.Agreed();
 }
 
@@ -78,16 +83,13 @@ TEST(CompanionPlacement, PairsWhatAllLongestPairingsPair) {
     for (auto* sequence : {&left, &right}) {
       for (std::uint32_t& symbol : *sequence) symbol = static_cast<std::uint32_t>(dice.Below(4));
     }
-    const auto places = [&](std::size_t i) {
-      std::vector<Position> all;
-      for (std::size_t j = 0; j < right.size(); ++j) {
-        if (right[j] == left[i]) all.push_back(static_cast<Position>(j));
+    std::vector<std::vector<Choice>> choices(left.size());
+    for (std::size_t i = 0; i < left.size(); ++i) {
+      for (Position j = 0; j < static_cast<Position>(right.size()); ++j) {
+        if (right[static_cast<std::size_t>(j)] == left[i]) choices[i].push_back({{j, j + 1}});
       }
-      return all;
-    };
-    EXPECT_EQ(AsWay(CommonPairs(left, right)),
-              TryAll(left.size(), places, [](std::size_t) { return Position{1}; }))
-        << "round " << round;
+    }
+    EXPECT_EQ(AsWay(CommonPairs(left, right)), TryAll(choices)) << "round " << round;
   }
 }
 
@@ -104,6 +106,18 @@ TEST(CompanionPlacement, PairsLongSequences) {
   }
 }
 
+std::vector<Range> RaisedAtRandom(Dice& dice, const std::u32string& text) {
+  std::vector<Range> raised;
+  const int chance = 30 * dice.Below(3);
+  for (Position at = 0; at < static_cast<Position>(text.size()); ++at) {
+    const Position end = std::min(at + 1 + dice.Below(2), static_cast<Position>(text.size()));
+    if (!dice.Percent(chance)) continue;
+    raised.push_back({at, end});
+    at = end;
+  }
+  return raised;
+}
+
 TEST(CompanionPlacement, PlacesWordsWhereAllFullestWaysDo) {
   Dice dice(2);
   const auto word = [&](int length) {
@@ -115,15 +129,18 @@ TEST(CompanionPlacement, PlacesWordsWhereAllFullestWaysDo) {
     const std::u32string text = word(dice.Below(9));
     std::vector<std::u32string> words(static_cast<std::size_t>(dice.Below(5)));
     for (std::u32string& one : words) one = word(1 + dice.Below(3));
-    const auto places = [&](std::size_t i) {
-      std::vector<Position> all;
-      for (std::size_t at = text.find(words[i]); at != text.npos; at = text.find(words[i], at + 1))
-        all.push_back(static_cast<Position>(at));
-      return all;
-    };
-    const auto length = [&](std::size_t i) { return static_cast<Position>(words[i].size()); };
-    EXPECT_EQ(AsWay(PlaceWords(text, {words.begin(), words.end()})),
-              TryAll(words.size(), places, length))
+    const std::vector<Range> raised = RaisedAtRandom(dice, text);
+    std::vector<std::vector<Choice>> choices(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i) {
+      for (std::size_t at = text.find(words[i]); at != text.npos;
+           at = text.find(words[i], at + 1)) {
+        const auto begin = static_cast<Position>(at);
+        const Range place{begin, begin + static_cast<Position>(words[i].size())};
+        const bool marked = std::find(raised.begin(), raised.end(), place) != raised.end();
+        choices[i].push_back({place, marked});
+      }
+    }
+    EXPECT_EQ(AsWay(PlaceWords(text, {words.begin(), words.end()}, raised)), TryAll(choices))
         << "round " << round;
   }
 }

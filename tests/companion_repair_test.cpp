@@ -93,7 +93,8 @@ class EditedText : public test::Workbench {
     for (std::size_t i = 0; i < tags_.size(); ++i) {
       const std::optional<Range> place = PlaceOf(i);
       if (placement.tags[i]) {
-        EXPECT_EQ(placement.tags[i], place) << ToUtf8(text.Text());
+        EXPECT_EQ(placement.tags[i], place)
+            << ToUtf8(tags_[i].term) << " in " << ToUtf8(text.Text());
       } else {
         EXPECT_FALSE(allAreThere) << ToUtf8(tags_[i].term) << " in " << ToUtf8(text.Text());
       }
@@ -171,8 +172,8 @@ TEST(CompanionRepair, MovesEveryTagWithItsTerm) {
     EditedText edited(seed);
     for (int edits = 0; edits < 8; ++edits) edited.EditPlainWords();
     edited.Check(true);
-    if (seed % 3 == 0) edited.Unmark();
-    edited.Check(seed % 3 != 0);
+    edited.Unmark();
+    edited.Check(true);
   }
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "companion/alignment.h"
 #include "companion/blocks.h"
@@ -43,34 +42,31 @@ void PlaceByMarks(const Text& text, const std::vector<Range>& raised, std::vecto
   }
 }
 
-// What is raised inside a range.
-std::unordered_set<std::u32string_view> RaisedWordsIn(const Text& text,
-                                                      const std::vector<Range>& raised,
-                                                      Range range) {
-  std::unordered_set<std::u32string_view> words;
-  auto stretch = std::partition_point(raised.begin(), raised.end(), [&](const Range& before) {
+// The stretches inside a range, counted from its begin.
+std::vector<Range> StretchesIn(const std::vector<Range>& stretches, Range range) {
+  auto stretch = std::partition_point(stretches.begin(), stretches.end(), [&](const Range& before) {
     return before.begin < range.begin;
   });
-  for (; stretch != raised.end() && stretch->end <= range.end; ++stretch) {
-    words.insert(text.At(*stretch));
+  std::vector<Range> inside;
+  for (; stretch != stretches.end() && stretch->end <= range.end; ++stretch) {
+    inside.push_back({stretch->begin - range.begin, stretch->end - range.begin});
   }
-  return words;
+  return inside;
 }
 
-// Places the blocks of a gap by their characters; those that may still have their marks there are
-// left alone.
-void PlaceByCharacters(const Text& text, const std::vector<Range>& raised, const Gap& gap,
-                       std::vector<Block>& blocks) {
-  const auto marked = RaisedWordsIn(text, raised, gap.text);
+// Places the blocks of a gap, of which some marks are gone, by the others and by their characters.
+void PlaceInGap(const Text& text, const std::vector<Range>& raised, const Gap& gap,
+                std::vector<Block>& blocks) {
   std::vector<std::u32string_view> words;
   std::vector<std::size_t> which;
   for (std::size_t i = gap.begin; i < gap.end; ++i) {
-    if (blocks[i].spelling.empty() || marked.contains(blocks[i].spelling)) continue;
+    if (blocks[i].spelling.empty()) continue;
     words.emplace_back(blocks[i].spelling);
     which.push_back(i);
   }
   if (words.empty()) return;
-  const std::vector<std::optional<Position>> places = PlaceWords(text.At(gap.text), words);
+  const std::vector<std::optional<Position>> places =
+      PlaceWords(text.At(gap.text), words, StretchesIn(raised, gap.text));
   for (std::size_t i = 0; i < words.size(); ++i) {
     if (places[i]) blocks[which[i]].place = gap.text.begin + *places[i];
   }
@@ -110,7 +106,7 @@ std::vector<Block> LooseBlocks(const Text& text, const TagList& list, const Refe
   std::copy_if(blocks.begin(), blocks.end(), std::back_inserter(all), tagged);
   std::sort(all.begin(), all.end(),
             [](const Block& a, const Block& b) { return a.old.begin < b.old.begin; });
-  for (const Gap& gap : GapsOf(all, text.Length())) PlaceByCharacters(text, {}, gap, all);
+  for (const Gap& gap : GapsOf(all, text.Length())) PlaceInGap(text, {}, gap, all);
   return all;
 }
 
@@ -135,7 +131,7 @@ Placement Place(const Text& text, const TagList& list) {
   std::vector<Block> blocks = BlocksOf(ClaimsOf(list));
   PlaceByMarks(text, raised, blocks);
   for (const Gap& gap : GapsOf(blocks, text.Length())) {
-    PlaceByCharacters(text, raised, gap, blocks);
+    PlaceInGap(text, raised, gap, blocks);
   }
   const References references(list);
   const std::vector<Block> loose = LooseBlocks(text, list, references, blocks);

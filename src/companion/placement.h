@@ -1,9 +1,9 @@
 // Where the tags of a list belong in a text whose words were changed since.
 //
 // Tags that overlap or touch form a block, which keeps its shape. Its places are the raised
-// stretches of the text that are spelled as it. Blocks keep their order, and as many as possible
-// have a place; what every way to do that says of a block holds. Blocks of which no mark is left
-// between the places of their neighbours are looked for there by their characters, in the same way.
+// stretches of the text that are spelled as it. Blocks keep their order. Of all ways to place them,
+// those count that place most blocks by their marks and, of these, most others by their characters;
+// a block has a place where all of these agree.
 #pragma once
 
 #include <optional>

@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <limits>
 #include <unordered_map>
+#include <unordered_set>
+
+#include "companion/chains.h"
 
 namespace quill::companion {
 namespace {
@@ -15,6 +18,7 @@ using Word = std::u32string_view;
 constexpr std::size_t kMostComparisons = 100'000'000;
 constexpr std::size_t kMostPlaces = 8'000'000;
 constexpr std::size_t kMostSteps = 4'000'000;
+constexpr std::size_t kMostLinks = 1'000'000;
 
 // Finds all places of many words in one pass, by their first two characters.
 class Finder {
@@ -32,8 +36,6 @@ class Finder {
     for (std::size_t at = 0; at < text.size(); ++at) {
       const Word rest = text.substr(at);
       if (!Look(rest, KeyOf(rest), at) || !Look(rest, KeyOf(rest.substr(0, 1)), at)) return false;
-      // The last character is its own head.
-      if (rest.size() == 1) break;
     }
     return true;
   }
@@ -88,6 +90,8 @@ Position LastPlace(const Laid& word, Position end) {
   return behind == word.places->begin() ? -1 : *(behind - 1);
 }
 
+// Words of a text without raised ones among them.
+//
 // For every number of words left out, from 0 up to what is needed, and for every number of words at
 // the head (or at the end): how far into the text the others reach at least.
 class Layout {
@@ -169,11 +173,59 @@ Vocabulary VocabularyOf(const std::vector<Word>& all) {
   return vocabulary;
 }
 
+// The stretches that are spelled as one of the words.
+std::vector<Range> MarkedStretches(Word text, const Vocabulary& vocabulary,
+                                   const std::vector<Range>& raised) {
+  const std::unordered_set<Word> words(vocabulary.words.begin(), vocabulary.words.end());
+  std::vector<Range> marked;
+  for (const Range& stretch : raised) {
+    const Word word = text.substr(static_cast<std::size_t>(stretch.begin),
+                                  static_cast<std::size_t>(stretch.Length()));
+    if (words.contains(word)) marked.push_back(stretch);
+  }
+  return marked;
+}
+
+using Places = std::vector<std::optional<Position>>;
+
+Places PlaceUnmarked(Word text, const std::vector<Laid>& words) {
+  Places places(words.size());
+  const Layout layout(words, static_cast<Position>(text.size()));
+  if (!layout.Found()) return places;
+  for (std::size_t i = 0; i < words.size(); ++i) places[i] = layout.PlaceOf(i);
+  return places;
+}
+
+// A place that is marked weighs more than all the others can together.
+Places PlaceByWeight(Word text, const std::vector<Laid>& words, const std::vector<Range>& marked) {
+  const auto isMarked = [&](Range place) {
+    const auto at = std::lower_bound(
+        marked.begin(), marked.end(), place.begin,
+        [](const Range& stretch, Position begin) { return stretch.begin < begin; });
+    return at != marked.end() && *at == place;
+  };
+  std::vector<Link> links;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (links.size() + words[i].places->size() > kMostLinks) return Places(words.size());
+    for (const Position begin : *words[i].places) {
+      const Range place{begin, begin + words[i].length};
+      const auto heavy = static_cast<std::int64_t>(words.size() + 1);
+      links.push_back({i, place, isMarked(place) ? heavy : 1});
+    }
+  }
+  Places places(words.size());
+  for (const std::size_t link : CommonLinks(links, static_cast<Position>(text.size()))) {
+    places[links[link].element] = links[link].place.begin;
+  }
+  return places;
+}
+
 }  // namespace
 
 std::vector<std::optional<Position>> PlaceWords(std::u32string_view text,
-                                                const std::vector<std::u32string_view>& words) {
-  std::vector<std::optional<Position>> places(words.size());
+                                                const std::vector<std::u32string_view>& words,
+                                                const std::vector<Range>& raised) {
+  Places places(words.size());
   const Vocabulary vocabulary = VocabularyOf(words);
   Finder finder(vocabulary.words);
   if (!finder.Search(text)) return places;
@@ -186,9 +238,10 @@ std::vector<std::optional<Position>> PlaceWords(std::u32string_view text,
     laid.push_back({static_cast<Position>(words[i].size()), &all});
     which.push_back(i);
   }
-  const Layout layout(laid, static_cast<Position>(text.size()));
-  if (!layout.Found()) return places;
-  for (std::size_t i = 0; i < laid.size(); ++i) places[which[i]] = layout.PlaceOf(i);
+  const std::vector<Range> marked = MarkedStretches(text, vocabulary, raised);
+  const Places found =
+      marked.empty() ? PlaceUnmarked(text, laid) : PlaceByWeight(text, laid, marked);
+  for (std::size_t i = 0; i < laid.size(); ++i) places[which[i]] = found[i];
   return places;
 }
 
