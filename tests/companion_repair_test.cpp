@@ -10,8 +10,8 @@
 #include "companion/placement.h"
 #include "support/random_user.h"
 #include "support/workbench.h"
+#include "text/numbers.h"
 #include "text/unicode.h"
-#include "workbench/work_value.h"
 
 namespace quill::companion {
 namespace {

@@ -4,10 +4,8 @@
 #include <map>
 
 #include "companion/output.h"
-#include "files/descriptor.h"
-#include "files/text_family.h"
-#include "text/unicode.h"
-#include "workbench/failure.h"
+#include "disk/descriptor.h"
+#include "disk/statement_failed.h"
 
 namespace quill::companion {
 namespace {
@@ -56,7 +54,8 @@ void MakeFolder(const std::string& folder) {
 }  // namespace
 
 std::string NameOf(const std::string& path) {
-  return EncodePath(BaseOf(DecodePath(path.substr(FolderPart(path).size()))));
+  const std::string list = ListBeside(path.substr(FolderPart(path).size()));
+  return list.substr(0, list.rfind('.'));
 }
 
 void ExportToFolder(const FolderFormat& format, const Options& options, Console& console) {

@@ -6,7 +6,7 @@
 #include "companion/output.h"
 #include "companion/placement.h"
 #include "companion/tagged_text.h"
-#include "files/text_lines.h"
+#include "disk/text_lines.h"
 #include "text/unicode.h"
 
 // A line is changed in its bytes: backslashes and digits are the same in every encoding that a list
