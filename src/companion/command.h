@@ -31,9 +31,12 @@ struct Command {
 const std::vector<Command>& Commands();
 
 void RunText(const Options& options, Console& console);
+void RunCheck(const Options& options, Console& console);
+void RunRepair(const Options& options, Console& console);
+void RunExport(const Options& options, Console& console);
+void RunConcordance(const Options& options, Console& console);
 void RunSummary(const Options& options, Console& console);
 void RunAgree(const Options& options, Console& console);
 void RunPicture(const Options& options, Console& console);
-void RunExport(const Options& options, Console& console);
 
 }  // namespace quill::companion

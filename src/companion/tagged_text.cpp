@@ -51,10 +51,12 @@ void CompleteIn(const Options& options, Console& console, TaggedText& text) {
 
 }  // namespace
 
+Text TextOf(const Document& document) { return {document.Text(), RaisedRunsOf(document)}; }
+
 Text ReadText(const std::string& path) {
   const std::optional<Document> document = rtf::Read(PosixDisk().Read(path));
   if (!document) throw StatementFailed(path + " is no text");
-  return {document->Text(), RaisedRunsOf(*document)};
+  return TextOf(*document);
 }
 
 std::string ListBeside(const std::string& path) { return EncodePath(TagListOf(DecodePath(path))); }

@@ -36,6 +36,8 @@ struct TaggedText {
   std::vector<TagList> lists;
 };
 
+Text TextOf(const Document& document);
+
 // Throws StatementFailed where the file cannot be read or is no text.
 Text ReadText(const std::string& path);
 

@@ -1,0 +1,23 @@
+// Chains: elements laid out in their order, each at one of its places, apart from each other.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "text/document.h"
+
+namespace quill::companion {
+
+// An element at one of its places.
+struct Link {
+  std::size_t element;
+  Range place;  // not empty
+  std::int64_t weight;
+};
+
+// The links that all the heaviest chains have in common: indices. Links come in the order of their
+// elements; the places lie in front of the end.
+std::vector<std::size_t> CommonLinks(const std::vector<Link>& links, Position end);
+
+}  // namespace quill::companion

@@ -1,0 +1,25 @@
+// The raised words of a text: what tells where tags stand, and of which kind they are.
+#pragma once
+
+#include <vector>
+
+#include "companion/tagged_text.h"
+
+namespace quill::companion {
+
+// Of marks and of operators: blue or red.
+enum class Kind { kA, kB };
+
+// The maximal raised stretches, whatever their colours, in order.
+std::vector<Range> RaisedStretches(const Text& text);
+
+// The maximal raised stretches of one kind, in order.
+std::vector<Range> MarkedStretches(const Text& text);
+
+// Whether a range that is not empty lies in one of the stretches, which are in order and apart.
+bool LiesIn(const std::vector<Range>& stretches, Range range);
+
+// Whether the whole of a raised range has the colour of a kind.
+bool HasColourOf(Kind kind, const Text& text, Range range);
+
+}  // namespace quill::companion
