@@ -1,8 +1,13 @@
-// The frame of the benchmarks on the real window: the program with its window, and a user who
-// clicks and waits until what came of it is painted.
+// The frame of the benchmarks on the real window: the program with its window, and a user who acts
+// when the processor rests and waits until it rests again. A row says how long it took until what
+// came of the action was painted, by the clock, and as counters how much of the processor's time
+// that was (painted_ms) and all that followed until rest (rest_ms).
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,7 +39,7 @@ class ShownProgram {
   W& Find(const char* name) const {
     return *window_->findChild<W*>(QString::fromLatin1(name));
   }
-  // With the mouse, until all is painted.
+  // With the mouse.
   void Press(const char* name);
   static void Paint();
 
@@ -44,6 +49,11 @@ class ShownProgram {
   Program program_{dialogs_, disk_};
   std::unique_ptr<MainWindow> window_;
 };
+
+// Repeats an action, each time after something that is not counted. Both must leave everything as
+// the next ones need it.
+void FromRestToRest(benchmark::State& state, const std::function<void()>& prepare,
+                    const std::function<void()>& act);
 
 // Runs the benchmarks without a screen, and then `done`, while the toolkit still runs.
 int RunWindowBenchmarks(int argc, char** argv, void (*done)());

@@ -10,16 +10,13 @@
 #include "rtf/symbol_field.h"
 #include "text/unicode.h"
 #include "window/appearance.h"
+#include "window/page/page_layout.h"
 #include "window/paragraph_decoration.h"
 #include "window/shown.h"
 #include "window/symbols.h"
 
 namespace quill {
 namespace {
-
-// Far changes in one edit of the widget lay out all that stands between; many edits take their
-// time one by one.
-constexpr std::size_t kMostSingleEdits = 50;
 
 // Half an inch, as in word processors, in pixels.
 constexpr double kTabStop = 48;
@@ -29,6 +26,7 @@ std::unique_ptr<QTextDocument> EmptyDocument(const QFont& font) {
   document->setUndoRedoEnabled(false);
   document->setDefaultFont(font);
   document->setDocumentMargin(8);
+  PageLayout::For(*document);
   QTextOption option = document->defaultTextOption();
   option.setTabStopDistance(kTabStop);
   document->setDefaultTextOption(option);
@@ -98,10 +96,10 @@ void DocumentBinder::Show() {
 
 void DocumentBinder::ShowChanges(const TextChanges& changes) {
   if (!changes.edited && changes.formats.empty()) return;
-  const DocumentView::Place place = view_.TopLine();
-  if (changes.edited) ShowEdit(changes.edit);
-  ShowFormats(changes.MergedFormats(text_.Length()));
-  view_.Restore(place);
+  view_.KeepPlace([&] {
+    if (changes.edited) ShowEdit(changes.edit);
+    ShowFormats(changes.MergedFormats(text_.Length()));
+  });
 }
 
 FormatId DocumentBinder::ParagraphFormat(Position position) const {
@@ -174,18 +172,17 @@ void DocumentBinder::ShowParagraphs(Range range) {
 }
 
 void DocumentBinder::ShowFormats(const std::vector<Range>& ranges) {
-  std::vector<Piece> pieces;
+  const PositionMap& positions = view_.Positions();
+  QTextCursor cursor(view_.document());
+  cursor.beginEditBlock();
   for (const Range& range : ranges) {
-    const std::vector<Piece> its = PiecesOf(text_.Doc(), range);
-    pieces.insert(pieces.end(), its.begin(), its.end());
+    for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
+      cursor.setPosition(positions.ToWidget(piece.range.begin));
+      cursor.setPosition(positions.ToWidget(piece.range.end), QTextCursor::KeepAnchor);
+      cursor.setCharFormat(styles_.Character(piece.format));
+    }
   }
-  QTextCursor whole(view_.document());
-  const bool together = pieces.size() > kMostSingleEdits;
-  if (together) whole.beginEditBlock();
-  for (const Piece& piece : pieces) {
-    view_.CursorAt(piece.range).setCharFormat(styles_.Character(piece.format));
-  }
-  if (together) whole.endEditBlock();
+  cursor.endEditBlock();
 }
 
 }  // namespace quill

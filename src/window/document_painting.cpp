@@ -13,6 +13,7 @@
 
 #include "window/document_view.h"
 #include "window/mark_names.h"
+#include "window/page/page_layout.h"
 
 namespace quill {
 namespace {
@@ -38,7 +39,21 @@ QRect SelectedPart(const QTextBlock& block, const QTextLine& line, const QTextCu
 
 }  // namespace
 
+void DocumentView::resizeEvent(QResizeEvent* event) {
+  KeepPlace([&] { QTextEdit::resizeEvent(event); });
+}
+
+void DocumentView::scrollContentsBy(int dx, int dy) {
+  if (place_.IsMoving()) {
+    viewport()->update();
+    return;
+  }
+  QTextEdit::scrollContentsBy(dx, dy);
+  place_.Scrolled();
+}
+
 void DocumentView::paintEvent(QPaintEvent* event) {
+  KeepPlace([] {});
   QPainter painter(viewport());
   const QPoint offset(horizontalScrollBar()->value(), verticalScrollBar()->value());
   painter.translate(-offset);
@@ -123,7 +138,6 @@ void DocumentView::timerEvent(QTimerEvent* event) {
 }
 
 void DocumentView::focusInEvent(QFocusEvent* event) {
-  PlaceCaret();
   QTextEdit::focusInEvent(event);
   RestartCaret();
 }
@@ -165,9 +179,9 @@ void DocumentView::ZoomBack() {
 }
 
 void DocumentView::ShowZoom() {
-  const Place place = TopLine();
-  zoom_.ApplyTo(*document());
-  Restore(place);
+  const bool caretIsSeen = viewport()->rect().intersects(cursorRect());
+  KeepPlace([this] { zoom_.ApplyTo(PageLayout::Of(*document())); });
+  if (caretIsSeen && IsInUse()) ensureCursorVisible();
   updateMicroFocus();
 }
 

@@ -1,6 +1,5 @@
 #include "window/document_view.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
@@ -10,6 +9,7 @@
 #include <utility>
 
 #include "window/edit_widgets.h"
+#include "window/page/page_layout.h"
 #include "window/shown.h"
 #include "workbench/form1.h"
 
@@ -67,12 +67,15 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   // The first one belongs to the toolkit, which deletes it by itself.
   const QPointer<QTextDocument> old = this->document();
   document->setParent(this);
+  PageLayout& page = PageLayout::Of(*document);
   pictures_.Serve(*document);
   decoration_.Clear();
-  zoom_.ApplyTo(*document);
+  zoom_.ApplyTo(page);
+  page.MeasureLetters();
+  place_.Stop();
   setDocument(document.release());
+  place_.Start(page);
   preeditCaret_ = -1;
-  caretIsNoted_ = false;
   delete old.data();
 }
 
@@ -84,8 +87,11 @@ QTextCursor DocumentView::CursorAt(Range range) const {
 }
 
 QRect DocumentView::PlaceOf(Range range) const {
-  const QRect first = cursorRect(CursorAt({range.begin, range.begin}));
-  const QRect last = cursorRect(CursorAt({range.end, range.end}));
+  // Both are laid out before either is looked for: what lies above the other moves it.
+  const QTextCursor begin = CursorAt({range.begin, range.begin});
+  const QTextCursor end = CursorAt({range.end, range.end});
+  const QRect first = cursorRect(begin);
+  const QRect last = cursorRect(end);
   const QRect both = first.united(last);
   if (last.top() <= first.top()) return both;
   // Over several lines: all their width, and no more of them than a reader needs to begin.
@@ -148,51 +154,19 @@ void DocumentView::Reveal(Range range) {
   }
 }
 
-DocumentView::Place DocumentView::TopLine() const {
-  const QTextCursor line = cursorForPosition(QPoint(0, 0));
-  return {line, cursorRect(line).top()};
-}
-
-void DocumentView::Restore(const Place& place) {
-  QScrollBar& bar = *verticalScrollBar();
-  const int value = bar.value() + cursorRect(place.line).top() - place.top;
-  if (value == bar.value()) return;
-  // The toolkit learns late how far down it has laid out the text.
-  bar.setMaximum(std::max(bar.maximum(), value));
-  bar.setValue(value);
-}
-
 // --- The caret -------------------------------------------------------------------------------
 
 bool DocumentView::IsInUse() const { return hasFocus() || text_.Form().Focus() == &text_; }
 
 void DocumentView::ShowSelection() {
-  const Range range = text_.Selection();
-  caretIsNoted_ = range.Length() == 0 && !IsInUse();
-  QTextCursor wanted = textCursor();
-  if (caretIsNoted_) {
-    wanted.clearSelection();
-  } else {
-    wanted = CursorAt(range);
-  }
+  const QTextCursor wanted = CursorAt(text_.Selection());
   const QTextCursor shown = textCursor();
   // A selection that the user just made stays as it is, with its direction.
   if (shown.selectionStart() != wanted.selectionStart() ||
       shown.selectionEnd() != wanted.selectionEnd()) {
-    SetCursor(wanted);
+    KeepPlace([&] { setTextCursor(wanted); });
   }
   viewport()->update();
-}
-
-void DocumentView::PlaceCaret() {
-  if (std::exchange(caretIsNoted_, false)) SetCursor(CursorAt(text_.Selection()));
-}
-
-// The toolkit would scroll to it.
-void DocumentView::SetCursor(const QTextCursor& cursor) {
-  const int top = verticalScrollBar()->value();
-  setTextCursor(cursor);
-  verticalScrollBar()->setValue(top);
 }
 
 // --- Selecting -------------------------------------------------------------------------------

@@ -5,10 +5,12 @@
 
 #include <QBasicTimer>
 #include <QTextEdit>
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include "window/actions.h"
+#include "window/page/place_keeper.h"
 #include "window/paragraph_decoration.h"
 #include "window/position_map.h"
 #include "window/text_pictures.h"
@@ -27,26 +29,21 @@ class DocumentView final : public QTextEdit {
   PositionMap& Positions() { return positions_; }
   QTextCursor CursorAt(Range range) const;
 
-  // Shows the model's selection without scrolling. A caret that nobody looks at is only noted, and
-  // put in its place when the text is used: the way there would be laid out.
+  // Shows the model's selection without scrolling.
   void ShowSelection();
   // Whether a caret without a selection is of use: keys would go to it.
   bool IsInUse() const;
 
-  // The line that the reader has at the top, and where it then was.
-  struct Place {
-    QTextCursor line;
-    int top = 0;
-  };
-  Place TopLine() const;
-  // Scrolls the line back to where it was before the text around it changed.
-  void Restore(const Place& place);
+  // Changes what is shown, without moving the line that the reader has at the top.
+  void KeepPlace(const std::function<void()>& change) { place_.Keep(change); }
   // Scrolls so that a range is seen with some lines around it, clear of the panels that lie over
   // the text; nothing where it is seen so.
   void Reveal(Range range);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   bool viewportEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -87,8 +84,6 @@ class DocumentView final : public QTextEdit {
   void Paste();
   void SelectEverything();
 
-  void PlaceCaret();
-  void SetCursor(const QTextCursor& cursor);
   // Tells the mark under the mouse in words. Returns whether there is one.
   bool ShowMarkName(const QHelpEvent& event);
   void ZoomBy(int steps);
@@ -108,11 +103,11 @@ class DocumentView final : public QTextEdit {
   TextPictures pictures_;
   ParagraphDecoration decoration_;
   Zoom zoom_;
+  PlaceKeeper place_{*this};
   int wheel_ = 0;  // how far the wheel turned towards the next step of the zoom
   QBasicTimer blink_;
   bool caretOn_ = false;
-  bool caretIsNoted_ = false;  // the widget's own is elsewhere
-  int preeditCaret_ = -1;      // inside the preedit text; -1 without one
+  int preeditCaret_ = -1;  // inside the preedit text; -1 without one
 };
 
 }  // namespace quill

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "rtf/decoration.h"
+#include "window/page/page_layout.h"
 #include "window/shown.h"
 #include "window/symbols.h"
 #include "window/zoom.h"
@@ -135,13 +136,11 @@ void ParagraphDecoration::DrawLabel(QPainter& painter, const QTextBlock& block) 
 }
 
 void ParagraphDecoration::DrawRow(QPainter& painter, const QTextBlock& block) const {
-  const double scale = ScaleOf(*block.document());
+  const Page& page = PageLayout::Of(*block.document()).ThePage();
+  const double scale = page.scale;
   const QRectF place = block.document()->documentLayout()->blockBoundingRect(block);
   const auto line = [&](double y) {
-    painter.fillRect(
-        QRectF(block.document()->documentMargin(), y,
-               block.document()->textWidth() - 2 * block.document()->documentMargin(), 1),
-        kTableLine);
+    painter.fillRect(QRectF(page.left, y, page.width, 1), kTableLine);
   };
   if (!IsInTable(block.previous())) line(place.top() - kRowGap / 2 * scale);
   if (EndsRow(block) || !IsInTable(block.next())) line(place.bottom() + kRowGap / 2 * scale);

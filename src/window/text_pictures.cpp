@@ -11,7 +11,7 @@
 #include <cstring>
 
 #include "text/unicode.h"
-#include "window/zoom.h"
+#include "window/page/page_layout.h"
 
 namespace quill {
 namespace {
@@ -92,13 +92,12 @@ rtf::PictureSize TextPictures::SizeOf(std::string_view group) {
 QSizeF TextPictures::intrinsicSize(QTextDocument* shown, int position,
                                    const QTextFormat& /*format*/) {
   const rtf::PictureSize size = SizeOf(GroupAt(*shown, position));
-  const double scale = ScaleOf(*shown);
-  const QSizeF whole(std::max(size.width / kTwipsInPixel, kLeastLength) * scale,
-                     std::max(size.height / kTwipsInPixel, kLeastLength) * scale);
+  const Page& page = PageLayout::Of(*shown).ThePage();
+  const QSizeF whole(std::max(size.width / kTwipsInPixel, kLeastLength) * page.scale,
+                     std::max(size.height / kTwipsInPixel, kLeastLength) * page.scale);
   const QTextBlockFormat paragraph = shown->findBlock(position).blockFormat();
-  const double margins =
-      2 * shown->documentMargin() + (paragraph.leftMargin() + paragraph.rightMargin()) * scale;
-  const double room = std::max(shown->textWidth() - margins, kLeastLength);
+  const double margins = (paragraph.leftMargin() + paragraph.rightMargin()) * page.scale;
+  const double room = std::max(page.width - margins, kLeastLength);
   return whole.width() <= room ? whole : whole * (room / whole.width());
 }
 

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <utility>
 
+#include "window/page/page_layout.h"
+
 namespace quill {
 namespace {
 
@@ -25,9 +27,9 @@ bool Zoom::Step(int steps) {
 
 bool Zoom::Reset() { return std::exchange(percent_, 100) != 100; }
 
-void Zoom::ApplyTo(QTextDocument& shown) {
-  shown.documentLayout()->setPaintDevice(percent_ == 100 ? nullptr : this);
-  shown.markContentsDirty(0, shown.characterCount());
+void Zoom::ApplyTo(PageLayout& page) {
+  page.setPaintDevice(percent_ == 100 ? nullptr : this);
+  page.LayOutAnew();
 }
 
 int Zoom::metric(PaintDeviceMetric metric) const {

@@ -8,6 +8,8 @@ class QTextDocument;
 
 namespace quill {
 
+class PageLayout;
+
 class Zoom final : public QPaintDevice {
  public:
   // In percent.
@@ -17,8 +19,8 @@ class Zoom final : public QPaintDevice {
   // By so many steps of the usual sizes, as far as these go. Returns whether anything changed.
   bool Step(int steps);
   bool Reset();
-  // Lays out a widget's document accordingly.
-  void ApplyTo(QTextDocument& shown);
+  // Lays out a text accordingly.
+  void ApplyTo(PageLayout& page);
 
   QPaintEngine* paintEngine() const override { return nullptr; }
 

@@ -76,8 +76,8 @@ TEST_F(PicturesTest, StayDrawnWhereTheTextIsMarkedAndEdited) {
 TEST_F(PicturesTest, NeverGoBeyondTheLine) {
   OpenText("\\li600{\\pict\\pngblip\\picwgoal30000\\pichgoal3000 " + GreenData("PNG") + "}");
   const QRect area = Area(kGreen);
-  EXPECT_GT(area.width(), View().viewport()->width() - 80);
-  EXPECT_LT(area.right(), View().viewport()->width());
+  EXPECT_GT(area.width(), ThePage().width - 80);
+  EXPECT_LE(area.right(), ThePage().left + ThePage().width);
   EXPECT_NEAR(area.width() / static_cast<double>(area.height()), 10, 0.3);
 }
 

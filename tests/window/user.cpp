@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+#include "window/page/page_layout.h"
+
 namespace quill::test {
 
 WindowTest::WindowTest() : Hands(window) {
@@ -24,6 +26,12 @@ QRect WindowTest::CaretAt(Position at) const {
   cursor.setPosition(static_cast<int>(at));
   return View().cursorRect(cursor);
 }
+
+int WindowTest::CaretOnPage(Position at) const {
+  return CaretAt(at).left() - static_cast<int>(ThePage().left);
+}
+
+const Page& WindowTest::ThePage() const { return PageLayout::Of(*View().document()).ThePage(); }
 
 QImage WindowTest::Painted(const QRect& place) const {
   return View().viewport()->grab(place).toImage();

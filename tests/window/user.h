@@ -11,6 +11,7 @@
 #include "hands/hands.h"
 #include "hands/shown_program.h"
 #include "support/fakes.h"
+#include "window/page/paragraph.h"
 
 namespace quill::test {
 
@@ -27,6 +28,9 @@ class WindowTest : public testing::Test,
 
   // Where the text shows its caret, in the coordinates of its viewport.
   QRect CaretAt(Position at) const;
+  // How far right of the page's left edge that is.
+  int CaretOnPage(Position at) const;
+  const Page& ThePage() const;
   // The text as it is painted, or a part of it.
   QImage Painted(const QRect& place = {{0, 0}, QSize(-1, -1)}) const;
   // The rectangle that holds all points of the wanted colours.

@@ -41,10 +41,10 @@ TEST_F(ViewTest, TheZoomLeavesTheTextAlone) {
   DragOver(4, 7);
   const std::string bytes = form.RichTextBox1.Doc().GetSource().bytes;
   const int height = CaretAt(0).height();
-  const int left = CaretAt(4).left();
+  const int left = CaretOnPage(4);
   const auto larger = [&](double times) {
     EXPECT_NEAR(CaretAt(0).height(), height * times, 3);
-    EXPECT_NEAR(CaretAt(4).left(), left * times, left * times / 6);
+    EXPECT_NEAR(CaretOnPage(4), left * times, left * times / 6);
     ExpectShown(window, form);
   };
   for (int i = 0; i < 5; ++i) Key(Qt::Key_Plus, Qt::ControlModifier);
@@ -154,10 +154,10 @@ TEST_F(ViewTest, TheCaretPassesWhatIsSeenAsOneCharacter) {
 TEST_F(ViewTest, LinesOfTwoDirections) {
   OpenText(R"(\rtlpar \u1488?\u1489? one \u1490?\par \ltrpar two \u1491?\u1492?\par)");
   ASSERT_EQ(form.RichTextBox1.Text(), U"\u05D0\u05D1 one \u05D2\ntwo \u05D3\u05D4\n");
-  EXPECT_GT(CaretAt(0).left(), View().viewport()->width() - 40) << "the line begins at the right";
+  EXPECT_GT(CaretOnPage(0), ThePage().width - 20) << "the line begins at the right";
   EXPECT_LT(CaretAt(1).left(), CaretAt(0).left());
   EXPECT_LT(CaretAt(4).left(), CaretAt(5).left()) << "Latin inside it still goes to the right";
-  EXPECT_LT(CaretAt(9).left(), 20);
+  EXPECT_LT(CaretOnPage(9), 20);
   DragOver(0, 2);
   EXPECT_EQ(form.RichTextBox1.SelText(), U"\u05D0\u05D1");
   Key(Qt::Key_Left);
