@@ -188,6 +188,8 @@ std::vector<std::string> BrokenFiles() {
       "{\\rtf1{\\colortbl;\\red9;\\red8;}xyz{\\colortbl;\\red7;}",
       "{\\rtf1{\\colortbl}xyz{\\colortbl;",
       "{\\rtf1 xyz{\\colortbl;\\red9;\\bin99 ",
+      "{\\rtf1\\ansi\\pard \\u-3913c\\upr \\u945a{\\uc2\\u228\\'E8a}\\par}",
+      "{\\rtf1 a{\\*\\shppict{\\pict\\pngblip 00}}{\\nonsh\\nonshppict{\\pic\\object{{\\*\\",
   };
 }
 

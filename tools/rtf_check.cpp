@@ -1,12 +1,19 @@
 // Tells of files whether the program can be trusted with them: each is loaded, marked, saved,
 // loaded again and unmarked, and one line says what came of it.
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,14 +29,18 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kUsage =
-    "usage: rtf_check [--copies FOLDER] FILE...\n"
+    "usage: rtf_check [--copies FOLDER] [--seconds N] FILE...\n"
     "Loads, marks and saves each file (the files themselves are only read) and prints a line on\n"
     "each. With --copies, the marked copy goes to FOLDER/marked, what is left when the marks are\n"
-    "taken off again to FOLDER/unmarked, and a list of the marks to FOLDER/marks.\n"
+    "taken off again to FOLDER/unmarked, and a list of the marks to FOLDER/marks, under the "
+    "folders\n"
+    "in which the files lie below the one that holds them all. With --seconds, a file that takes\n"
+    "longer counts as failed, and so does one that ends the check.\n"
     "Ends with 1 if a file cannot be read or a property fails, with 2 if it is called wrongly.\n";
 
 struct Options {
   std::optional<fs::path> copies;
+  unsigned seconds = 0;  // for one file; 0 for as long as it takes
   std::vector<fs::path> files;
 };
 
@@ -39,6 +50,11 @@ std::optional<Options> OptionsOf(const std::vector<std::string>& arguments) {
     if (arguments[i] == "--copies") {
       if (++i == arguments.size()) return std::nullopt;
       options.copies = arguments[i];
+    } else if (arguments[i] == "--seconds") {
+      if (++i == arguments.size()) return std::nullopt;
+      const char* const end = arguments[i].data() + arguments[i].size();
+      const auto [stop, error] = std::from_chars(arguments[i].data(), end, options.seconds);
+      if (error != std::errc() || stop != end || options.seconds == 0) return std::nullopt;
     } else if (arguments[i].starts_with("--")) {
       return std::nullopt;
     } else {
@@ -62,17 +78,31 @@ struct Finding {
   }
 };
 
+fs::path Absolute(const fs::path& file) { return fs::absolute(file).lexically_normal(); }
+
+// The innermost folder that holds all of the files.
+fs::path CommonFolder(const std::vector<fs::path>& files) {
+  fs::path common = Absolute(files.front()).parent_path();
+  for (const fs::path& file : files) {
+    const fs::path folder = Absolute(file).parent_path();
+    while (std::mismatch(common.begin(), common.end(), folder.begin(), folder.end()).first !=
+           common.end()) {
+      common = common.parent_path();
+    }
+  }
+  return common;
+}
+
 class Copies {
  public:
-  explicit Copies(const std::optional<fs::path>& folder) : folder_(folder) {
-    if (!folder_) return;
-    for (const char* kind : {"marked", "unmarked", "marks"})
-      fs::create_directories(*folder_ / kind);
-  }
+  explicit Copies(const Options& options)
+      : folder_(options.copies), common_(CommonFolder(options.files)) {}
 
   void Put(const char* kind, const fs::path& file, const std::string& bytes) const {
     if (!folder_) return;
-    std::ofstream out(*folder_ / kind / file.filename(), std::ios::binary);
+    const fs::path copy = *folder_ / kind / Absolute(file).lexically_relative(common_);
+    fs::create_directories(copy.parent_path());
+    std::ofstream out(copy, std::ios::binary);
     out << bytes;
     out.close();
     if (!out) throw std::runtime_error("the copy of " + file.string() + " could not be written");
@@ -80,6 +110,7 @@ class Copies {
 
  private:
   std::optional<fs::path> folder_;
+  fs::path common_;
 };
 
 // A line for each mark: its begin, its end, the attributes that it has (colour, bold, underline and
@@ -143,18 +174,45 @@ Finding Check(const fs::path& file, const Copies& copies) {
   return finding;
 }
 
+// Prints what came of a file; whether that is good.
+bool Report(const fs::path& file, const Finding& finding) {
+  std::cout << file.string() << ": " << finding.line << std::endl;
+  return finding.good;
+}
+
+// Checks a file in a process of its own, so that nothing that befalls it ends the whole.
+bool CheckWithin(unsigned seconds, const fs::path& file, const Copies& copies) {
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("no process could be started");
+  if (child == 0) {
+    alarm(seconds);
+    try {
+      _exit(Report(file, Check(file, copies)) ? 0 : 1);
+    } catch (const std::exception& error) {
+      _exit(Report(file, {error.what(), false}) ? 0 : 1);
+    }
+  }
+  int status = 0;
+  if (waitpid(child, &status, 0) != child) throw std::runtime_error("a process was lost");
+  if (WIFEXITED(status)) return WEXITSTATUS(status) == 0;
+  const bool late = WTERMSIG(status) == SIGALRM;
+  return Report(file, {late ? "not checked: it takes longer than " + std::to_string(seconds) + " s"
+                            : "the check ended by signal " + std::to_string(WTERMSIG(status)),
+                       false});
+}
+
 int Main(const std::vector<std::string>& arguments) {
   const std::optional<Options> options = OptionsOf(arguments);
   if (!options) {
     std::cerr << kUsage;
     return 2;
   }
-  const Copies copies(options->copies);
+  const Copies copies(*options);
   bool good = true;
   for (const fs::path& file : options->files) {
-    const Finding finding = Check(file, copies);
-    std::cout << file.string() << ": " << finding.line << std::endl;
-    good = good && finding.good;
+    const bool fine = options->seconds > 0 ? CheckWithin(options->seconds, file, copies)
+                                           : Report(file, Check(file, copies));
+    good = good && fine;
   }
   return good ? 0 : 1;
 }

@@ -23,8 +23,9 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       TakeFieldInstruction();
       return;
     case Word::kAlternatives:
-      skipNext_ = true;
+      skipNext_ = IsGroupsFirst();
       alternativesAt_ = token.begin;
+      marks_.Other();
       return;
     case Word::kPictureForm:
       TakePictureForm(entry, token);
@@ -72,14 +73,15 @@ void TextReader::TakeColourTable() {
 
 // A picture or an object, with all that its group holds, is one character.
 void TextReader::TakeObject(const Token& token) {
-  const bool wholeGroup = atHead_ || (starred_ && starredHead_);
-  Offset end = SkipToClose();
-  if (wholeGroup && end < bytes_.size()) ++end;
+  const bool wholeGroup = IsGroupsFirst();
+  const Offset close = SkipToClose();
+  const Offset end = wholeGroup && close < bytes_.size() ? close + 1 : close;
   text_.Add(kObject, wholeGroup ? groupOpen_ : token.begin, end);
   if (wholeGroup) {
     marks_.GroupIsCharacter();
   } else {
-    marks_.Other();
+    marks_.Characters();
+    marks_.Close(close);
     Oddity();
   }
   CloseGroup();
@@ -87,7 +89,7 @@ void TextReader::TakeObject(const Token& token) {
 
 void TextReader::TakeField() {
   field_ = {};
-  if (atHead_ || (starred_ && starredHead_)) {
+  if (IsGroupsFirst()) {
     field_ = {states_.Depth(), groupOpen_, text_.Size(), {}, marks_.Here()};
   }
   marks_.Other();
@@ -118,7 +120,7 @@ void TextReader::EndField(Offset end) {
 
 // A picture may stand there in two forms, one behind the other: together they are one character.
 void TextReader::TakePictureForm(const WordEntry& entry, const Token& token) {
-  const bool second = pictureForm_ != 0 && pictureForm_ != entry.argument &&
+  const bool second = IsGroupsFirst() && pictureForm_ != 0 && pictureForm_ != entry.argument &&
                       pictureFormAt_ == text_.Size() && IsOnlyLineEnds(pictureEnd_, groupOpen_);
   if (!second) {
     TakeObject(token);

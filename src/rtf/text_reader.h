@@ -55,6 +55,9 @@ class TextReader {
   void SetStandardPage(const CodePage& page);
   void AddCharacter(char32_t character, const Token& token, Origin::Kind kind = Origin::kPlain);
 
+  // Whether the word that is being taken stands first in its group, but for a \*.
+  bool IsGroupsFirst() const { return atHead_ || (starred_ && starredHead_); }
+
   // The file holds something that no program writes.
   void Oddity() { wellFormed_ = false; }
 
