@@ -21,9 +21,12 @@ class Application final : public QApplication {
 
   // What throws is told on standard error, and counts as an event that was taken.
   bool notify(QObject* receiver, QEvent* event) override;
+  // How many events threw.
+  int GivenUp() const { return givenUp_; }
 
  private:
   std::function<void(const QWidget&)> afterInput_;
+  int givenUp_ = 0;
 };
 
 }  // namespace quill
