@@ -19,36 +19,14 @@
 #include "support/random_user.h"
 #include "support/rich_text.h"
 #include "support/scenario_folder.h"
+#include "support/walk_texts.h"
 #include "text/unicode.h"
 
 namespace quill::test {
 namespace {
 
 namespace fs = std::filesystem;
-using Files = std::map<std::string, std::string>;
 using Lines = std::multiset<std::u32string>;
-
-// Texts with characters of one to four bytes, a table, a note, marks; companions with odd lines.
-Files Texts() {
-  return {
-      {"a.rtf",
-       R"({\rtf1\ansi\deff0{\fonttbl{\f0 Times;}}{\colortbl;\red0\green0\blue255;\red255\green0\blue0;}
-Then {\cf1 caf\'e9} and {\cf2\b then} \u26085?\u26412? {\*\unknown x}{\footnote a note}\par
-{\cf1\ul yesterday} \u-10179?\u-8704? {\cf2 the day} before\tab then\line {\cf1 t\cf2 h\cf0 en}\par})"},
-      {"b.rtf",
-       R"({\rtf1\ansi{\colortbl;\red0\green0\blue255;\red128\green128\blue255;}\pard{\cf1 One} row
-\trowd\cellx900\cellx1800\intbl {\cf1 then}\cell two {\cf2 later}\cell\row\pard {\pict 00ff} end {\cf1 now}})"},
-      {"c.rtf", "plain \xC3\xA9t\xC3\xA9 then\r\nthen \xE6\x97\xA5 \xF0\x9F\x98\x80 end"},
-      {"e.tbf", "{\\rtf1}"},
-      {"bad.rtf", std::string("no\0text", 7)},
-      {"a.tlf",
-       "t_op(1\\ 6\\ 9\\ caf\xC3\xA9\\ S\\ U\\ lexematic\\ a_operator\\ absolute \\ at\\ d \\ 1\\ "
-       "Reference Tag\\  \\   )\r\n\r\nno tag\nt_op(9\\ 900\\ 905\\ then\\ S\\ U\\ lexematic\\ "
-       "b_operator\\ relative\\ after\\ d \\ Value ?\\ then\\ 6\\ 9 )"},
-      {"a.spd", "-lemma- then A\r\n"},
-      {"globaldict.gdf", ""},
-  };
-}
 
 Lines LinesOf(const std::string& file) {
   const std::vector<std::u32string> lines = DecodeLines(file);

@@ -44,6 +44,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   } catch (...) {
     std::fprintf(stderr, "quillorandix: an event was given up\n");
   }
+  ++givenUp_;
   return true;
 }
 

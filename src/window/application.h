@@ -27,10 +27,13 @@ class Application final : public QApplication {
 
   // What throws is told on standard error, and counts as an event that was taken.
   bool notify(QObject* receiver, QEvent* event) override;
+  // How many events threw.
+  int GivenUp() const { return givenUp_; }
 
  private:
   std::function<void(const QWidget&)> afterInput_;
   std::function<bool(const QWidget&, const QEvent&)> refuses_;
+  int givenUp_ = 0;
 };
 
 }  // namespace quill

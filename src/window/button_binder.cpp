@@ -1,5 +1,6 @@
 #include "window/button_binder.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 
@@ -27,6 +28,14 @@ class CaptionButton : public QPushButton {
   }
 
  protected:
+  // The toolkit's arrow keys lead from button to button.
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool arrow =
+        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    if (arrow) return event->ignore();
+    QPushButton::keyPressEvent(event);
+  }
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

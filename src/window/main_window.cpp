@@ -71,6 +71,9 @@ MainWindow::MainWindow(Program& program)
       desk_(new QWidget) {
   setObjectName(QStringLiteral("Form1"));
   desk_->setMinimumSize(LeastSize());
+  // A window that comes back to the front would give the keys to some control, had the desk no use
+  // for them. A click on the desk changes nothing.
+  desk_->setFocusPolicy(Qt::TabFocus);
   room_->setWidget(desk_);
   setCentralWidget(room_);
   BuildMenus();

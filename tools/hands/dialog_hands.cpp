@@ -9,10 +9,16 @@
 #include "hands/hands.h"
 
 namespace quill {
+namespace {
+
+constexpr int kPause = 2;  // milliseconds
+
+}  // namespace
 
 DialogHands::DialogHands() {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { UseTopmost(); });
-  timer_.start(5);
+  timer_.setSingleShot(true);
+  timer_.start(kPause);
 }
 
 QDialog* DialogHands::Open() {
@@ -28,16 +34,14 @@ QDialog* DialogHands::Open() {
 }
 
 void DialogHands::UseTopmost() {
+  // A dialog may open another one while it is used: the next look must not wait for the end of
+  // this one.
+  timer_.start(kPause);
   QDialog* const dialog = Open();
   if (dialog == nullptr) return;
   // An exception must not go through the dialog's event loop.
   try {
-    if (waiting_.empty()) {
-      throw HandsFailed("nobody expected the dialog " + dialog->windowTitle().toStdString());
-    }
-    const Use use = std::move(waiting_.front());
-    waiting_.pop_front();
-    use(*dialog);
+    TakeUse (*dialog)(*dialog);
     if (dialog->isVisible()) {
       throw HandsFailed("the dialog " + dialog->windowTitle().toStdString() + " stayed open");
     }
@@ -45,6 +49,16 @@ void DialogHands::UseTopmost() {
     if (!failure_) failure_ = std::current_exception();
     dialog->done(QDialog::Rejected);
   }
+}
+
+DialogHands::Use DialogHands::TakeUse(const QDialog& dialog) {
+  if (waiting_.empty() && others_) return others_;
+  if (waiting_.empty()) {
+    throw HandsFailed("nobody expected the dialog " + dialog.windowTitle().toStdString());
+  }
+  Use use = std::move(waiting_.front());
+  waiting_.pop_front();
+  return use;
 }
 
 void DialogHands::Finish() {

@@ -10,8 +10,8 @@
 
 namespace quill {
 
-// Uses whatever dialog opens, as long as it lives. A dialog that nobody waits for, and one whose
-// use fails, is closed as if refused.
+// Uses whatever dialog opens, as long as it lives. A dialog that nobody knows what to do with, and
+// one whose use fails, is closed as if refused.
 class DialogHands {
  public:
   // Looks at the dialog and closes it, by mouse or keys.
@@ -24,6 +24,8 @@ class DialogHands {
 
   // What to do with the dialogs to come, one each, in this order.
   void AtNext(Use use) { waiting_.push_back(std::move(use)); }
+  // What to do with the dialogs that no use waits for.
+  void AtOthers(Use use) { others_ = std::move(use); }
   // Throws HandsFailed where a dialog could not be used, none was waited for, or one did not come.
   void Finish();
 
@@ -33,9 +35,11 @@ class DialogHands {
 
  private:
   void UseTopmost();
+  Use TakeUse(const QDialog& dialog);
 
   QTimer timer_;
   std::deque<Use> waiting_;
+  Use others_;
   std::exception_ptr failure_;
 };
 

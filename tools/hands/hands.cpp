@@ -146,6 +146,14 @@ void Hands::WheelToRow(const char* list, int row) {
   });
 }
 
+void Hands::Drag(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button,
+                 Qt::KeyboardModifiers modifiers) {
+  QTest::mousePress(&widget, button, modifiers, from);
+  QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, button, modifiers);
+  QApplication::sendEvent(&widget, &move);
+  QTest::mouseRelease(&widget, button, modifiers, to);
+}
+
 // --- The keyboard ----------------------------------------------------------------------------
 
 void Hands::Keys(const char* text) {
@@ -181,11 +189,7 @@ void Hands::DragOver(Position begin, Position end) {
   QWidget& viewport = *View().viewport();
   const QPoint first = PointAt(begin);
   const QPoint last = PointAt(end);
-  QTest::mousePress(&viewport, Qt::LeftButton, {}, first);
-  QMouseEvent move(QEvent::MouseMove, last, viewport.mapToGlobal(last), Qt::NoButton,
-                   Qt::LeftButton, {});
-  QApplication::sendEvent(&viewport, &move);
-  QTest::mouseRelease(&viewport, Qt::LeftButton, {}, last);
+  Drag(viewport, first, last);
 }
 
 void Hands::WheelTo(Position at) {

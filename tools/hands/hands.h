@@ -37,6 +37,9 @@ class Hands {
   void Pick(const char* combo, const char* row);  // the row of that text, blanks at its end apart
   void ClickRow(const char* list, int row);       // it must be in sight
   void WheelToRow(const char* list, int row);     // until it is in sight
+  // Inside a widget, in its own pixels.
+  static void Drag(QWidget& widget, const QPoint& from, const QPoint& to,
+                   Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {});
 
   void Keys(const char* text);  // to whatever has the focus
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});

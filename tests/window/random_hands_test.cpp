@@ -1,0 +1,273 @@
+// A random user on the real window, with real dialogs and files: after every action the widgets
+// show what the model holds, and what must always hold holds.
+//
+// QUILL_WALK_ACTIONS is the number of actions (3000), QUILL_WALK_SEED the first seed (1). What is
+// done is written down line by line. A walk that fails, also by ending the process, leaves its
+// record, and QUILL_WALK_RECORD names a record to play again.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <csignal>
+#include <optional>
+#include <regex>
+
+#include "files/posix_disk.h"
+#include "hands/dialog_hands.h"
+#include "hands/shown_program.h"
+#include "line_hands.h"
+#include "random_hands.h"
+#include "record.h"
+#include "shown_window.h"
+#include "support/walk_texts.h"
+#include "text/unicode.h"
+#include "window/application.h"
+#include "window/shown.h"
+#include "window/window_dialogs.h"
+
+namespace quill::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the toolkit warns of is a fault of the window; the offscreen platform's own are none.
+std::string warnings;
+void Collect(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
+  if (!message.startsWith(QLatin1String("This plugin"))) warnings += message.toStdString() + '\n';
+}
+
+Files FilesIn(const fs::path& folder) {
+  Files files;
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    files[entry.path().filename()] = {std::istreambuf_iterator<char>(file), {}};
+  }
+  return files;
+}
+
+// A box and what it is to hold after a key that types a letter.
+struct Typed {
+  const Control* box = nullptr;
+  QString text;
+};
+
+template <class Cursor>
+QString TypedOver(const QString& text, const Cursor& begin, const Cursor& end, const QString& key) {
+  return text.left(begin) + key + text.mid(end);
+}
+
+class Walk : ShownProgram<PosixDisk, WindowDialogs> {
+ public:
+  Walk(std::uint32_t seed, const char* toPlay)
+      : dice_(seed), record_(root_.filePath(QStringLiteral("record")).toStdString(), toPlay) {
+    root_.setAutoRemove(false);
+    const QDir root(root_.path());
+    root.mkdir(QStringLiteral("texts"));
+    QDir::setCurrent(root.filePath(QStringLiteral("texts")));
+    qputenv("XDG_STATE_HOME", root.filePath(QStringLiteral("state")).toUtf8());
+    for (const auto& [file, bytes] : Texts()) std::ofstream(file, std::ios::binary) << bytes;
+    dialogs.Attach(window, form);
+    window.OnDroppedFile([this](const QString& path) {
+      dialogs.ChooseNext(path);
+      window.findChild<QAction*>(QStringLiteral("mnuFileOpen"))->trigger();
+    });
+    answers_.AtOthers([this](QDialog& dialog) { Answer(dialog); });
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+  }
+  ~Walk() {
+    QDir::setCurrent(QDir::tempPath());
+    root_.setAutoRemove(!testing::Test::HasFailure());
+  }
+  Walk(const Walk&) = delete;
+  Walk& operator=(const Walk&) = delete;
+
+  bool Ended() const { return program.Ended(); }
+  std::string LastLines() const { return record_.LastLines(); }
+
+  void Step() {
+    const std::string line = record_.Next([this] { return user_.Line(); });
+    const Files files = FilesIn(fs::current_path());
+    const std::u32string text = form.RichTextBox1.Text();
+    const int givenUp = Application::Instance().GivenUp();
+    const std::optional<Typed> typed = TypedBy(line);
+    const std::map<const ListBox*, int> rows = RowsAfter(line);
+    try {
+      hands_.Do(line);
+      answers_.Finish();
+    } catch (const HandsFailed& failure) {
+      ADD_FAILURE() << failure.what();
+    }
+    EXPECT_EQ(Application::Instance().GivenUp(), givenUp) << "something threw inside the toolkit";
+    if (Ended()) return;
+    EXPECT_EQ(Differences(window, form), "");
+    EXPECT_EQ(std::exchange(warnings, {}), "");
+    for (const auto& [list, row] : rows) EXPECT_EQ(list->ListIndex, row) << list->Name();
+    if (typed && typed->box->IsInReach()) {
+      EXPECT_EQ(TextOf(*typed->box).toStdString(), typed->text.toStdString());
+    }
+    if (IsOfMouseAlone(line)) {
+      EXPECT_EQ(ToUtf8(form.RichTextBox1.Text()), ToUtf8(text));
+    }
+    ExpectFilesWhole(files, FilesIn(fs::current_path()));
+  }
+
+ private:
+  // --- Dialogs ---------------------------------------------------------------------------------
+
+  void Answer(QDialog& dialog) {
+    EXPECT_EQ(Differences(window, form), "") << "behind a dialog";
+    NoteSource();
+    if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) return AnswerFileDialog(*files);
+    auto& box = dynamic_cast<QMessageBox&>(dialog);
+    while (box.isVisible()) {
+      const QString answer = QString::fromStdString(record_.Next([&] { return BoxAnswer(box); }));
+      if (answer.startsWith(QLatin1String("answer key "))) {
+        QTest::keyClick(&box,
+                        answer.endsWith(QLatin1String("Esc")) ? Qt::Key_Escape : Qt::Key_Return);
+      } else {
+        QAbstractButton* const button = box.buttons().value(answer.section(u' ', 2).toInt());
+        QTest::mouseClick(button, Qt::LeftButton);
+      }
+    }
+  }
+  std::string BoxAnswer(const QMessageBox& box) {
+    if (dice_.Percent(20)) return dice_.Percent(50) ? "answer key Esc" : "answer key Return";
+    return "answer button " + std::to_string(dice_.Below(static_cast<int>(box.buttons().size())));
+  }
+  void AnswerFileDialog(QFileDialog& dialog) {
+    const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
+    const std::string answer = record_.Next([&]() -> std::string {
+      if (dice_.Percent(10)) return "answer cancel";
+      if (!opens && dice_.Percent(10)) return "answer name " + source_;
+      return "answer name " + LineHands::Encoded(user_.FileName(opens));
+    });
+    constexpr std::string_view kName = "answer name ";
+    if (answer.starts_with(kName)) {
+      DialogHands::TypeName(dialog, answer.substr(kName.size()).c_str());
+    }
+    if (dialog.isVisible()) dialog.reject();
+  }
+  // A text that was loaded from anything else than a working copy.
+  void NoteSource() {
+    const fs::path shown(ToUtf8(form.RichTextBox1.FilePath()));
+    if (shown.extension() == ".rtf") source_ = shown.filename();
+  }
+
+  // --- What must hold --------------------------------------------------------------------------
+
+  static QString TextOf(const Control& control) {
+    const auto* const combo = dynamic_cast<const ComboBox*>(&control);
+    return ToQt(combo != nullptr ? combo->Text.Get()
+                                 : dynamic_cast<const TextBox&>(control).Text.Get());
+  }
+
+  // Boxes take what is typed into them.
+  std::optional<Typed> TypedBy(const std::string& line) const {
+    if (!line.starts_with("letter ")) return std::nullopt;
+    const QString key = LineHands::Decoded(QString::fromStdString(line.substr(7)));
+    QWidget* const widget = QApplication::focusWidget();
+    const Control* const box = ControlOf(form, widget);
+    if (box == nullptr || QApplication::activePopupWidget() != nullptr) return std::nullopt;
+    if (const auto* const edit = qobject_cast<QLineEdit*>(widget)) {
+      const int begin = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+      const int end = edit->hasSelectedText() ? edit->selectionEnd() : begin;
+      return Typed{box, TypedOver(TextOf(*box), begin, end, key)};
+    }
+    if (const auto* const edit = qobject_cast<QPlainTextEdit*>(widget)) {
+      const QTextCursor cursor = edit->textCursor();
+      return Typed{box,
+                   TypedOver(TextOf(*box), cursor.selectionStart(), cursor.selectionEnd(), key)};
+    }
+    return std::nullopt;
+  }
+
+  // Where a list must stand after an action of the mouse: at the row that was clicked or, for
+  // whatever else may happen to a list, where it stood.
+  std::map<const ListBox*, int> RowsAfter(const std::string& line) const {
+    const LineHands::Target target = hands_.TargetOf(line);
+    const auto* const list = dynamic_cast<const ListBox*>(ControlOf(form, target.widget));
+    if (list == nullptr || line.starts_with("drag")) return {};
+    const bool left = line.find(" left ") != std::string::npos;
+    const auto* const view = qobject_cast<QAbstractItemView*>(target.widget->parentWidget());
+    if (!left || view == nullptr || !list->IsInReach()) return {{list, list->ListIndex}};
+    const QModelIndex row = view->indexAt(target.point);
+    if (line.find(" - ") == std::string::npos) return {};
+    return {{list, row.isValid() ? row.row() : list->ListIndex.Get()}};
+  }
+
+  // The mouse alone changes no characters, wherever it is pressed but on buttons and in menus.
+  bool IsOfMouseAlone(const std::string& line) const {
+    if (line.starts_with("drop file")) return false;
+    const Control* const control = ControlOf(form, hands_.TargetOf(line).widget);
+    return control != nullptr && control->Kind() != Kind::kButton;
+  }
+
+  // Texts stay as they were, dictionaries grow, and nothing is there that belongs to no text.
+  void ExpectFilesWhole(const Files& before, const Files& after) {
+    static const std::regex companion(R"(.*\.([tT][bB][fF]|tlf|spd|gdf)(~\d*)?)");
+    NoteSource();
+    for (const auto& [name, bytes] : before) {
+      ASSERT_TRUE(after.contains(name)) << name;
+      const std::string& now = after.at(name);
+      if (now == bytes) continue;
+      const bool grows = name.ends_with(".spd") || name.ends_with(".gdf");
+      EXPECT_TRUE(grows ? now.starts_with(bytes) : !name.ends_with(".rtf") && !name.ends_with("~"))
+          << name << " was written";
+    }
+    for (const auto& [name, bytes] : after) {
+      EXPECT_TRUE(before.contains(name) || std::regex_match(name, companion)) << name;
+    }
+  }
+
+  QTemporaryDir root_;
+  Dice dice_;
+  Record record_;
+  LineHands hands_{window};
+  RandomHands user_{dice_, window, form};
+  DialogHands answers_;
+  std::string source_;
+};
+
+int Setting(const char* name, int usual) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? usual : std::atoi(value);
+}
+
+TEST(RandomHands, SeeWhatTheModelHolds) {
+  constexpr int kLongestWalk = 300;
+  // A list that dropped down is clicked at once.
+  QApplication::setDoubleClickInterval(1);
+  QApplication::setKeyboardInputInterval(0);
+  const QtMessageHandler former = qInstallMessageHandler(Collect);
+  std::signal(SIGABRT, Record::TellAtEnd);
+  const char* const toPlay = std::getenv("QUILL_WALK_RECORD");
+  const int actions = Setting("QUILL_WALK_ACTIONS", 3000);
+  auto seed = static_cast<std::uint32_t>(Setting("QUILL_WALK_SEED", 1));
+  for (int done = 0; done < actions; ++seed) {
+    Walk walk(seed, toPlay);
+    for (int i = 0; i < kLongestWalk && done < actions && !walk.Ended(); ++i, ++done) {
+      try {
+        walk.Step();
+      } catch (const Record::Ended&) {
+        done = actions;
+      }
+      if (!HasFailure()) continue;
+      qInstallMessageHandler(former);
+      FAIL() << "seed " << seed << ", action " << i << "; " << walk.LastLines();
+    }
+  }
+  qInstallMessageHandler(former);
+}
+
+}  // namespace
+}  // namespace quill::test
