@@ -222,8 +222,7 @@ bool WindowDialogs::IsShownWorkingCopy(const QString& path) const {
 
 void WindowDialogs::RefuseInput() {
   QMessageBox box(window_);
-  constexpr int kExclamation = 48;
-  Run(box, kExclamation,
+  Run(box, QMessageBox::Warning,
       QStringLiteral(
           "The text came from %1. That file is never written: please choose another name "
           "for the working copy.")

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QScrollBar>
+#include <QtTest>
 #include <functional>
 
 #include "hands/dialog_hands.h"

@@ -20,7 +20,7 @@
 #include <optional>
 #include <regex>
 
-#include "files/posix_disk.h"
+#include "disk/posix_disk.h"
 #include "hands/dialog_hands.h"
 #include "hands/shown_program.h"
 #include "line_hands.h"

@@ -109,7 +109,7 @@ TEST_F(TagsTest, WhatEndsLeavesTheViewWhereItIs) {
   Press("Generate_Tag");
   ASSERT_EQ(form.RichTextBox1.SelStart, 0);
   EXPECT_EQ(bar.value(), there);
-  dialogs.answers = {1, 1};
+  dialogs.answers = {Button::kOk, Button::kOk};
   for (const int row : {1, 0}) {  // with another tag of the same word left, and without
     ClickRow("TagList", row);
     bar.setValue(there);

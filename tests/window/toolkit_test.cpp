@@ -153,9 +153,9 @@ TEST_F(ToolkitTest, OneDroppedFileIsOpened) {
   EXPECT_EQ(form.Text2.Text.Get(), U"Definition?");
   QMimeData data;
   data.setUrls({here});
-  dialogs.ask = [&](const auto&...) {
+  dialogs.ask = [&](const MessageBox&) {
     EXPECT_FALSE(Drop(*View().viewport(), data)) << "while a question is open";
-    return 1;
+    return Button::kOk;
   };
   opened.clear();
   Press("Parse_1");
@@ -240,9 +240,9 @@ TEST_F(ToolkitTest, WhatIsCutOffIsToldWhole) {
 
 TEST_F(ToolkitTest, TheWaitingCursorShowsBeforeWorkBegins) {
   Qt::CursorShape shown = Qt::ArrowCursor;
-  dialogs.ask = [&](const auto&...) {
+  dialogs.ask = [&](const MessageBox&) {
     if (QApplication::overrideCursor() != nullptr) shown = QApplication::overrideCursor()->shape();
-    return 1;
+    return Button::kOk;
   };
   OpenText("one");
   Press("Parse_1");

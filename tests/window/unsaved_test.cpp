@@ -155,11 +155,11 @@ TEST_F(UnsavedTest, AreCopiedWhileAQuestionIsOpen) {
   form.Parse_listbox.ListIndex = 0;
   OpenText("Came. He came.");
   int questions = 0;
-  dialogs.ask = [&](const std::u32string&, int, const std::u32string&) {
+  dialogs.ask = [&](const MessageBox&) {
     const bool marked = ++questions > 1;
     EXPECT_EQ(QTest::qWaitFor([&] { return ColourInCopy(folder) == kMarked; }, marked ? 5000 : 0),
               marked);
-    return 6;
+    return Button::kYes;
   };
   Press("Parse_3");
   EXPECT_EQ(questions, 2);
