@@ -1,5 +1,5 @@
-// An open file of the machine, and the system calls on it that the disk needs, with interruptions
-// and short transfers dealt with.
+// An open file, and the system calls that the disk makes on it, with interruptions and short
+// transfers handled.
 #pragma once
 
 #include <sys/stat.h>
@@ -10,15 +10,14 @@
 
 namespace quill {
 
-// Throws StatementFailed: "PATH could not be WHAT: REASON". The reason is that of errno, or one's
-// own.
+// Throws StatementFailed: "PATH could not be WHAT: REASON". Without a reason, errno's is given.
 [[noreturn]] void FailDisk(const std::string& path, const char* what);
 [[noreturn]] void FailDisk(const std::string& path, const char* what, const char* reason);
 
 class Descriptor {
  public:
-  // Open or not; where not, errno has the reason. Never waits for the other end of a pipe. Failures
-  // name the path, or the name given.
+  // May fail to open, see IsOpen; errno then has the reason. Never waits for the other end of a
+  // pipe. Later failures are reported under `name`, or under the path if that is empty.
   Descriptor(const std::string& path, int flags, mode_t mode = 0, const std::string& name = {});
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
@@ -27,14 +26,14 @@ class Descriptor {
   bool IsOpen() const { return number_ >= 0; }
   int Number() const { return number_; }
 
-  // All of these throw StatementFailed where they fail.
+  // All of these throw StatementFailed on failure.
   struct stat Status() const;
-  // Status of an ordinary file; anything else fails.
+  // As Status, but fails for anything but a regular file.
   struct stat OrdinaryStatus() const;
-  // The whole file, which may not be longer than `most` bytes.
+  // The whole file. Fails if it is longer than `most` bytes.
   std::string ReadAll(std::size_t most) const;
   void WriteAll(std::string_view bytes) const;
-  // Returns when all that was written is on the disk.
+  // Returns once everything written is on the disk.
   void Flush() const;
 
  private:
@@ -42,14 +41,13 @@ class Descriptor {
   int number_;
 };
 
-// Whether two names stand for one file.
+// Whether both are of the same file.
 bool IsSameFile(const struct stat& left, const struct stat& right);
 
 // "a/" of "a/b", "" of "b".
 std::string FolderPart(const std::string& path);
 
-// Flushes the folder of a file, so that a file that was made or renamed there is there after a
-// crash.
+// Flushes the folder of a file, so that creating or renaming the file survives a crash.
 void FlushFolderOf(const std::string& path);
 
 }  // namespace quill

@@ -1,4 +1,4 @@
-// The one door to the disk. It has a real form (PosixDisk) and others for tests.
+// The disk as the program sees it. PosixDisk is the real one; tests and benchmarks have others.
 #pragma once
 
 #include <string>
@@ -6,26 +6,26 @@
 
 namespace quill {
 
-// Paths are bytes. Every member throws StatementFailed with a sentence that names the path where it
-// cannot do its work.
+// Paths are bytes. On failure every member throws StatementFailed, with a sentence that names the
+// path.
 class Disk {
  public:
   virtual ~Disk() = default;
 
   virtual std::string Read(const std::string& path) = 0;
-  // Whether two paths lead to one file; false where there is none.
+  // Whether two paths lead to one file; false if either does not exist.
   virtual bool IsOneFile(const std::string& path, const std::string& other) = 0;
-  // All of the new content or all of the old: a failure at any moment leaves the old file whole.
+  // Atomic: after a failure at any point the old file is intact.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
-  // As Replace, and the old content, which must be there, stays beside the file: as PATH~ or, where
-  // that name is taken, under the first free one of PATH~2, PATH~3 and so on. A failure leaves no
-  // such copy, unless the new content is in place.
+  // As Replace, but keeps the old content in the same folder, as PATH~ or, if that name is taken,
+  // as the first free one of PATH~2, PATH~3 and so on. The file must exist. A failure leaves no
+  // copy, unless the new content is already in place.
   virtual void ReplaceKeepingOld(const std::string& path, std::string_view bytes) = 0;
-  // Adds one line and its line end, CR LF. A file that is missing is made; a last line that lacks
-  // its line end gets it first.
+  // Appends a line and CR LF. Creates a missing file; first completes a last line that has no line
+  // end.
   virtual void AppendLine(const std::string& path, std::string_view line) = 0;
-  // Makes an empty file where there is none and leaves an existing one untouched, which may be
-  // write-protected as long as it can be read.
+  // Creates an empty file if there is none. An existing file is left alone; it may be
+  // write-protected, but must be readable.
   virtual void CreateIfMissing(const std::string& path) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The temporary file through which a file is replaced, or a copy laid beside it.
+// The temporary file through which a file is replaced or copied.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace quill {
 
-// The file that a path means in the end: links are followed, also to a target that does not exist.
+// The file that a path leads to. Links are followed, even to a target that does not exist.
 std::string TargetOf(const std::string& path);
 
 // The path of the temporary file for a target.
@@ -17,10 +17,10 @@ std::string TemporaryPath(const std::string& target);
 // Whether what is written must survive a power cut, or only the end of the program.
 enum class Flushing { kToDisk, kNone };
 
-// Made beside its target and locked. Unless it was put in place, it is gone when this ends.
+// Created in the target's folder and locked. Removed on destruction unless it was put in place.
 class Replacement {
  public:
-  // With `restricted` nobody else may read it before its permissions are set.
+  // With `restricted`, no other user may read it until its permissions are set.
   Replacement(const std::string& target, bool restricted, Flushing flushing = Flushing::kToDisk);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
@@ -31,8 +31,8 @@ class Replacement {
   void TakePermissionsOf(const struct stat& old) const;
   // Renames it over the target and flushes the folder, as told.
   void PutInPlace();
-  // Gives it another name in the target's folder instead and flushes the folder. Returns whether
-  // the name was free; what stands under a name that is taken stays.
+  // Renames it to `freePath`, in the target's folder, instead, and flushes the folder. Returns
+  // false, with nothing changed, if that name is taken.
   bool PutUnder(const std::string& freePath);
 
  private:

@@ -1,5 +1,5 @@
 // The files that belong to a text: its working copy (.tbf), its tag list (.tlf) and its dictionary
-// (.spd), all named by a plain cut of the path's last four characters, whatever they are.
+// (.spd). Each name is the path with its last four characters, whatever they are, replaced.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ std::u32string WorkingCopyOf(const std::u32string& path);
 std::u32string TagListOf(const std::u32string& path);
 std::u32string DictionaryOf(const std::u32string& path);
 
-// Whether the path ends in "tbf", in small letters, and so is taken for a working copy.
+// Whether the path ends in "tbf", in lower case.
 bool IsWorkingCopy(const std::u32string& path);
 
 }  // namespace quill

@@ -23,7 +23,7 @@ void OpenSpecificDict(Form1& form) {
   form.TheDisk().CreateIfMissing(EncodePath(form.WorkState.SpecificDictFile.Get()));
 }
 
-// The new text becomes the working copy's text; its tag list and dictionary stay as they are.
+// Saves the new text as its working copy; the tag list and dictionary stay as they are.
 void MakeWorkingCopy(Form1& form) {
   form.User_Dialogue.Text =
       U"Please save a *.tbf working copy before you start working with this file.";

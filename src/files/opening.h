@@ -1,12 +1,12 @@
-// Opening a text: a working copy of earlier work, or a new text, of which a working copy is made at
-// once so that the input file stays untouched.
+// Opening a text: a working copy from earlier, or a new text, which is copied to a working copy at
+// once so that the input file is never changed.
 #pragma once
 
 namespace quill {
 
 class Form1;
 
-// Ends silently at the first step that fails; what was done up to there stands.
+// Ends silently at the first step that fails; what was done before stands.
 void mnuFileOpen_Click(Form1& form);
 
 }  // namespace quill

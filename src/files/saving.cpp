@@ -8,7 +8,7 @@
 namespace quill {
 namespace {
 
-// FileName is empty afterwards where the user cancelled.
+// Leaves FileName empty if the user cancels.
 void ShowSaveDialog(Form1& form) {
   form.CommonDialog1.DialogTitle = U"Save your tagged *.tbf-file";
   form.CommonDialog1.FileName = WorkingCopyOf(form.WorkState.TextBaseFile);
@@ -16,6 +16,7 @@ void ShowSaveDialog(Form1& form) {
   form.CommonDialog1.ShowSave();
 }
 
+// The caption of a save says v1.05 where that of an opening says v1.07. That is intended.
 void ShowSaved(Form1& form) {
   form.Caption = U"Quillorandix v1.05 ----- saved files " + form.WorkState.TextBaseFile.Get() +
                  U" + " + form.WorkState.TagListFile.Get();

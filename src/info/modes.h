@@ -1,7 +1,6 @@
-// The switch between the two modes, and the box and panels that open over the text.
+// Switching between the two modes, and the box and panels that open over the text.
 //
-// The mode is nothing but which of PreFrame and PostFrame is shown: a change of mode loses nothing
-// of what stands in them.
+// The mode is just which of PreFrame and PostFrame is visible; both keep their contents.
 #pragma once
 
 namespace quill {
@@ -14,7 +13,7 @@ void mnuPostProcess_Click(Form1& form);
 void mnuDialogue_off_Click(Form1& form);
 void mnuDialogue_on_Click(Form1& form);
 
-// Opening the Info menu shows the panel already, and its one item does the same again.
+// Opening the Info menu already shows the panel; its one item shows it again.
 void mnuInfo_Click(Form1& form);
 void mnuVLK_Click(Form1& form);
 void Close_Info_Click(Form1& form);

@@ -1,9 +1,9 @@
 // Marking by hand, in two steps: a define button colours the selection and types its text into the
-// term box of its kind; then Set writes the box's term back over the selection as a mark, or Reject
-// takes colour and bold off the selection.
+// term box of its kind; then Set writes the term back over the selection as a mark, or Reject
+// clears colour and bold from it.
 //
-// The enabled states of the buttons are the only memory of the dialogue: every step works on the
-// selection of its own moment.
+// Nothing is remembered between the steps but which buttons are enabled: each step works on
+// whatever is selected then.
 #pragma once
 
 namespace quill {

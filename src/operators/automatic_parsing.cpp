@@ -21,10 +21,10 @@ struct Scan {
   std::optional<OperatorKind> kind;
 };
 
-// The scans of a run, in the order of the list, and the distinct terms that they look for.
+// The scans of a run, in list order, and the distinct terms that they search for.
 class ScanList {
  public:
-  // For the item that the record of working state holds.
+  // For the item in ParseTerm and ParseCategory.
   void Add(const WorkState& state) {
     const auto [entry, isNew] =
         numbers_.try_emplace(FoldCase(state.ParseTerm.Get()), terms_.size());
@@ -51,8 +51,7 @@ HitsByTerm FindHits(const std::vector<std::u32string>& terms, const std::u32stri
   return hits;
 }
 
-// The scans whose marks may still be seen at the end. Two scans for one term hit the same
-// characters: a later one that writes all that the earlier wrote makes the earlier vain.
+// The scans whose marks no later scan overwrites: two scans for one term hit the same characters.
 std::vector<Scan> ScansThatLast(const std::vector<Scan>& scans, std::size_t terms) {
   enum Later : char { kNothing, kWithoutKind, kWithKind };
   std::vector<Later> later(terms, kNothing);
@@ -83,12 +82,12 @@ void Mark(TextSurface& text, const std::vector<Range>& hits, std::optional<Opera
   text.Format(raised, change);
 }
 
-// Leaves ParsePos, TagStart and the caret where the scans, one after the other, leave them.
+// Leaves ParsePos, TagStart and the caret where scanning for one item after the other would.
 void EndScans(Form1& form, const std::vector<Scan>& scans, const HitsByTerm& hits) {
   const auto moved = std::find_if(scans.rbegin(), scans.rend(),
                                   [&](const Scan& scan) { return !hits[scan.term].empty(); });
-  // Positions in the text count from 0 and ParsePos from 1: the caret stands one character behind
-  // the one that follows the hit.
+  // ParsePos, which counts from 1, goes to SelStart, which counts from 0: the caret ends one
+  // character further. That is intended.
   if (moved != scans.rend()) form.RichTextBox1.SelStart = hits[moved->term].back().end + 1;
 
   for (const Scan& scan : scans) {

@@ -1,5 +1,5 @@
-// The alphabet of a search: every character that occurs in a term, in whatever case, has a small
-// number; all others share the number 0.
+// The alphabet of a search: each character of a term has a small number, the same in either case;
+// all others share the number 0.
 #pragma once
 
 #include <cstdint>
@@ -15,13 +15,13 @@ class CharacterClasses {
  public:
   CharacterClasses();
 
-  // The class of a folded character and of its other cases; makes one where there is none.
+  // The class of a folded character and its other cases, created if there is none.
   CharacterClass Add(char32_t folded);
   // Any character up to U+10FFFF.
   CharacterClass Of(char32_t character) const {
     return classes_[blocks_[character >> kBlockBits] + (character & kInBlock)];
   }
-  // With kForeign.
+  // Including kForeign.
   std::size_t Count() const { return count_; }
 
  private:
@@ -29,7 +29,8 @@ class CharacterClasses {
   static constexpr char32_t kInBlock = (1U << kBlockBits) - 1;
   void Put(char32_t character, CharacterClass number);
 
-  // Where the block of a character begins in classes_; blocks without a term's character are one.
+  // Where the block of each character begins in classes_. Blocks without a term's character share
+  // one.
   std::vector<std::uint32_t> blocks_;
   std::vector<CharacterClass> classes_;
   CharacterClass count_ = 1;

@@ -5,8 +5,7 @@ namespace quill {
 
 class Form1;
 
-// On Yes a hit takes the colour of its kind that marks made by hand have; on No it becomes plain,
-// whatever it was before.
+// Yes marks the hit as by hand; No makes it plain, whatever it was before.
 void Parse_3_Click(Form1& form);
 
 }  // namespace quill

@@ -3,8 +3,8 @@
 //   lemma\      |C< definition >      in Parse_listbox: six blanks, a vertical bar
 //   lemma\    \C< definition >        in a dictionary file: the second backslash in column 20
 //
-// The lemma ends at the first backslash; the category C is the one character behind the second
-// delimiter. An entry that was read from a file stays in file form, so that both stand in the list.
+// The lemma ends at the first backslash; the category C is the one character after the second
+// delimiter. Entries read from a file keep the file form, so the list holds both.
 #pragma once
 
 #include <optional>
@@ -19,22 +19,22 @@ struct OperatorEntry {
   std::u32string Definition;
 };
 
-// The dictionary of all texts: a bare name, in the directory in which the program was started.
+// The dictionary for all texts: a bare name, in the working directory.
 inline constexpr std::u32string_view kGlobalDictionary = U"globaldict.gdf";
 
-// The characters that no lemma may hold.
+// Characters that a lemma must not contain.
 inline constexpr std::u32string_view kReservedCharacters = U"\\|<>";
 
-// Line breaks become blanks, so that an entry is one line.
+// Line breaks become blanks: an entry is one line.
 std::u32string ListForm(const OperatorEntry& entry);
-// Without the line end. The gap is as wide as is needed, and never narrower than one blank.
+// Without the line end. The gap is at least one blank.
 std::u32string FileForm(const OperatorEntry& entry);
 
 // The parts of an item of Parse_listbox, of either form, as the searches take them. Views into it.
 struct ItemParts {
   std::optional<std::u32string_view> Lemma;  // nothing in an item without a backslash
-  // Of one character; empty where the item ends before it. The item's first character where it has
-  // no backslash, the one behind the backslash where it has no second delimiter.
+  // One character; empty if the item ends before it. Without a backslash it is the item's first
+  // character, without a second delimiter the one after the backslash.
   std::u32string_view Category;
 };
 ItemParts CutItem(std::u32string_view item);

@@ -11,11 +11,11 @@ constexpr std::uint32_t kNoTerm = std::numeric_limits<std::uint32_t>::max();
 // All rows together: eight megabytes, about what a processor keeps at hand.
 constexpr std::size_t kMostMoves = std::size_t{1} << 21U;
 
-// The sorted terms that share the beginning that a state stands for.
+// The sorted terms that share the prefix of a state.
 struct Bundle {
   std::size_t first = 0;
   std::size_t last = 0;
-  std::size_t length = 0;  // of that beginning
+  std::size_t length = 0;  // of that prefix
 };
 
 }  // namespace
@@ -35,7 +35,7 @@ TermSearch::State TermSearch::AddState(CharacterClass entry) {
   return static_cast<State>(entry_.size() - 1);
 }
 
-// Lays out the states level by level: a bundle of sorted terms splits by the next character.
+// Creates the states level by level: a bundle of sorted terms splits by the next character.
 void TermSearch::Grow(const std::vector<std::u32string>& terms) {
   std::vector<std::uint32_t> sorted(terms.size());
   std::iota(sorted.begin(), sorted.end(), 0U);
@@ -63,7 +63,7 @@ void TermSearch::Grow(const std::vector<std::u32string>& terms) {
   firstChild_.push_back(static_cast<State>(entry_.size()));
 }
 
-// Fallbacks, reports and rows, each from those of shorter beginnings, which come first.
+// Fallbacks, reports and rows, each from those of shorter prefixes, which come first.
 void TermSearch::Connect() {
   const std::size_t states = entry_.size();
   width_ = alphabet_.Count();
@@ -108,7 +108,7 @@ TermSearch::Move TermSearch::Step(State state, CharacterClass next) const {
 std::vector<TermHit> TermSearch::Hits(std::u32string_view text) const {
   std::vector<TermHit> hits;
   const auto length = static_cast<Position>(text.size());
-  // Behind the last hit of every term.
+  // Where the search for each term resumes.
   std::vector<Position> free(lengths_.size(), 0);
   Move move = MoveTo(kRoot);
   for (Position at = 0; at < length; ++at) {

@@ -1,10 +1,10 @@
-// Finds many terms in a text in one pass, whatever their case.
+// Finds many terms in a text in one pass, ignoring case.
 //
 // An automaton over the folded alphabet of the terms (Aho and Corasick, 1975): a state is the
-// longest beginning of a term that the text read so far ends in, so that every character is looked
-// at once, however many terms there are. States are numbered level by level. The shallow ones,
-// where a text spends its time, have a full row of successors; the deep ones keep their branches
-// alone and fall back to shorter beginnings.
+// longest prefix of a term that is a suffix of the text read so far, so each character is read
+// once, however many terms there are. States are numbered level by level. The shallow ones, where a
+// search spends its time, have a full row of successors; the deep ones store only their own
+// branches and fall back to shorter prefixes.
 #pragma once
 
 #include <cstdint>
@@ -26,23 +26,21 @@ class TermSearch {
  public:
   static constexpr Position kNone = -1;
 
-  // The terms must be folded (FoldCase) and distinct. An empty term never occurs.
+  // The terms must be folded (FoldCase) and distinct. An empty term has no hits.
   explicit TermSearch(const std::vector<std::u32string>& terms);
 
-  // For every term, its hits as one finds them who goes on behind each: hits of one term don't
-  // overlap. Nobody goes on from the last character: a hit is left out where the one before it, or
-  // the text's beginning, leaves no more than that. In the order of the hits' ends.
+  // Non-overlapping hits per term, left to right. No search starts at the last character. In order
+  // of where the hits end.
   std::vector<TermHit> Hits(std::u32string_view text) const;
 
-  // Where the first occurrence at or behind `from` begins; kNone where there is none. For the one
-  // term of a list of one.
+  // Where the first hit at or after `from` begins, or kNone. Only for a list of one term.
   Position Next(std::u32string_view text, Position from) const;
 
  private:
   using State = std::uint32_t;
   static constexpr State kRoot = 0;
-  // Where a character leads: a state, and in the lowest bit whether a term ends there. So a search
-  // reads one number a character, and that is what it waits for.
+  // Where a character leads: a state, and in the lowest bit whether a term ends there. Reading one
+  // number per character is what limits the speed of a search.
   using Move = std::uint32_t;
   static State Target(Move move) { return move >> 1U; }
   static bool Reports(Move move) { return (move & 1U) != 0; }
@@ -58,13 +56,13 @@ class TermSearch {
 
   CharacterClasses alphabet_;
   std::size_t width_ = 0;              // of a row
-  State rows_ = 0;                     // how many states have a row
+  State rows_ = 0;                     // the number of states that have a row
   std::vector<Move> moves_;            // the rows, by the class of the next character
-  std::vector<State> firstChild_;      // the children of a state follow one another; one entry more
-  std::vector<CharacterClass> entry_;  // by which character a state is entered
-  std::vector<State> fallback_;        // the longest proper ending that is a beginning too
-  std::vector<State> report_;          // the state itself or the longest ending that is a term
-  std::vector<std::uint32_t> term_;    // the term that a state completes
+  std::vector<State> firstChild_;      // children are consecutive; one extra entry at the end
+  std::vector<CharacterClass> entry_;  // the character that enters each state
+  std::vector<State> fallback_;        // the longest proper suffix that is also a prefix
+  std::vector<State> report_;          // the state itself, or its longest suffix that is a term
+  std::vector<std::uint32_t> term_;    // the term that each state completes
   std::vector<Position> lengths_;      // of the terms
 };
 

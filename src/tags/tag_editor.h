@@ -1,25 +1,24 @@
-// The rules of the tag editor, the row of controls in PostFrame that holds one tag while it is
-// made.
+// The rules of the tag editor, the row of controls in PostFrame that holds a tag while it is made.
 //
-// The editor has no state of its own: a control that shows its placeholder counts as not filled in,
-// and the rules open the next step of the form by what the controls show.
+// The editor has no state of its own: a control that shows its placeholder is not filled in, and
+// the rules enable the next control by what the others show.
 #pragma once
 
 namespace quill {
 
 class Form1;
 
-// Writes the placeholders back and deselects the tag. Rows of lists, RefFrame, RefTag and the
-// identifiers stay. The rules run inside only where ValBox held another text; else the combo boxes
-// stay enabled as they were until the caller runs them.
+// Restores the placeholders and deselects the tag. Rows of lists, RefFrame, RefTag and the
+// identifiers stay. The rules run only if this changes ValBox; otherwise the combo boxes stay
+// enabled as they were until the caller runs the rules.
 void ResetTagEditor(Form1& form);
 
-// Enables and shows what the present texts allow. A second run with the same texts changes nothing.
+// Enables and shows what the controls' texts allow. Idempotent.
 void ApplyTagEditorRules(Form1& form);
 
 void ClassCombo_Click(Form1& form);
 void OperatorCombo_Click(Form1& form);
-// Also swaps the rows of TypeCombo, which differ between absolute and relative terms.
+// Also swaps the rows of TypeCombo, which depend on the mode.
 void ModeCombo_Click(Form1& form);
 void TypeCombo_Click(Form1& form);
 void GranCombo_Click(Form1& form);

@@ -34,7 +34,7 @@ std::vector<std::string_view> RawLines(std::string_view bytes) {
   return lines;
 }
 
-// Whether each line of a file is known byte for byte: the usual case, told without decoding.
+// Whether each line of a file is known byte for byte: the usual case, settled without decoding.
 bool HoldsTheseBytesOnly(std::string_view file, std::string_view known) {
   std::unordered_map<std::string_view, int> left;
   for (const std::string_view line : RawLines(known)) ++left[line];
@@ -45,8 +45,8 @@ bool HoldsTheseBytesOnly(std::string_view file, std::string_view known) {
   });
 }
 
-// Whether a file holds a line that is not known, or holds it more often. Lines of files are
-// compared, as a tag may be several of them.
+// Whether a file has a line that is not known, or has it more often. Lines of the file are
+// compared, not tags: a tag may be several lines.
 bool HoldsForeignLine(std::string_view file, std::string_view known) {
   if (HoldsTheseBytesOnly(file, known)) return false;
   std::vector<std::u32string> there = DecodeLines(file);

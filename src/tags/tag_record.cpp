@@ -18,7 +18,7 @@ std::size_t FindFrom(std::u32string_view line, char32_t wanted, std::size_t from
 
 std::size_t Behind(std::size_t position) { return position == kMissing ? kMissing : position + 1; }
 
-// The text between two places; empty where either is missing or the end stands before the start.
+// The text between two places; empty if the end is missing or precedes the start.
 std::u32string_view Between(std::u32string_view line, std::size_t start, std::size_t end) {
   if (end == kMissing || start > end) return {};
   return line.substr(start, end - start);
@@ -49,8 +49,8 @@ TagFields CutTag(std::u32string_view line, std::size_t count) {
     start = separator == kMissing ? kMissing : separator + kSeparator.size();
   }
   if (count < TagField::kCount) return fields;
-  // The parenthesis is searched behind the last separator but one, so that one that stands in the
-  // last field but one leaves the last field empty.
+  // The search for the parenthesis starts behind the last separator but one: one in the last field
+  // but one leaves the last field empty.
   fields[TagField::kRefStop] = Between(line, start, FindFrom(line, U')', closingFrom));
   return fields;
 }

@@ -4,9 +4,9 @@
 //       \ RefTerm\ RefStart\ RefStop )
 //
 // in one line: "t_op(", 15 fields with "\ " between them, " )". Nothing is quoted, escaped or
-// trimmed; a field is the text of its control, blanks included. A backslash inside a field counts
-// as a separator when the line is cut, so that every later field shifts by one; a line break makes
-// two lines of the tag in the file.
+// trimmed: a field is the text of its control, blanks included. A backslash inside a field is taken
+// for a separator and shifts all later fields by one; a line break splits the tag into two lines of
+// the file.
 #pragma once
 
 #include <array>
@@ -17,7 +17,7 @@
 
 namespace quill {
 
-// The fields in the order of the line, as indices into TagFields.
+// Indices into TagFields, in the order of the line.
 struct TagField {
   enum : std::size_t {
     kId,
@@ -43,21 +43,20 @@ using TagFields = std::array<std::u32string_view, TagField::kCount>;
 
 std::u32string ComposeTag(const TagFields& fields);
 
-// Views into the line. A missing separator makes all later ones missing; a field whose separators
-// are missing, or stand in no order, is empty. The last field keeps the blank of the closing " )".
-// Numbers among the fields are to be read with Val. Only the first `count` fields are cut; the
-// others stay empty.
+// Cuts the first `count` fields, as views into the line; the others are empty. So is a field whose
+// separators are missing or out of order, and all fields after a missing separator. The last field
+// keeps the blank of the closing " )". Read numbers with Val.
 TagFields CutTag(std::u32string_view line, std::size_t count = TagField::kCount);
 
-// Where a tag's term stands: its first and last character, 1-based. 0 for what cannot be cut.
+// The first and last character of a tag's term, 1-based. 0 for what cannot be cut.
 struct TagSpan {
   double start = 0;
   double end = 0;
 };
 TagSpan CutTagSpan(std::u32string_view line);
 
-// The number of a tag, cut in the way of the numbering: between the first "(" and the first "\".
-// Nothing where that is not decimal digits only.
+// The number of a tag as the numbering reads it: between the first "(" and the first "\". Nothing
+// unless that is decimal digits only.
 std::optional<double> CutTagNumber(std::u32string_view line);
 
 }  // namespace quill

@@ -14,7 +14,7 @@
 namespace quill {
 namespace {
 
-// The first line that tags the same word, wherever in the text it stands.
+// The first line that tags the same word, anywhere in the text.
 std::optional<int> FindTagOf(const ListBox& list, std::u32string_view term) {
   for (int i = 0; i < list.ListCount(); ++i) {
     if (CutTag(list.List(i), TagField::kTerm + 1)[TagField::kTerm] == term) return i;
@@ -22,6 +22,7 @@ std::optional<int> FindTagOf(const ListBox& list, std::u32string_view term) {
   return std::nullopt;
 }
 
+// TagList_Click runs twice, the first time raised by the new ListIndex. That is intended.
 void ShowOtherTag(Form1& form, int index) {
   form.TagList.ListIndex = index;
   TagList_Click(form);

@@ -1,12 +1,12 @@
-// Taking the selected tag out of the list, and its marks out of the text.
+// Removing the selected tag from the list, and its mark from the text.
 #pragma once
 
 namespace quill {
 
 class Form1;
 
-// The list and the text change at once. The question that follows decides about the tag list file
-// alone: a Cancel brings nothing back.
+// List and text change at once. The question that follows is about the tag list file alone: Cancel
+// restores nothing.
 void RemoveItem_Click(Form1& form);
 
 }  // namespace quill

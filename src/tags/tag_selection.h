@@ -1,4 +1,4 @@
-// Bringing a tag of the list back into the tag editor and on show in the text.
+// Showing a tag of the list in the tag editor and in the text.
 #pragma once
 
 namespace quill {
@@ -6,8 +6,8 @@ namespace quill {
 class Form1;
 
 // Fills the editor from the selected line, underlines the term that the tag refers to and selects
-// the tag's own span, with the focus in the text. The tag is then ready to be edited or removed.
-// Nothing without a selected line. Fields that cannot be cut are empty.
+// the tag's own span, with the focus in the text. The tag can then be edited or removed. Does
+// nothing if no line is selected. Fields that cannot be cut are empty.
 void TagList_Click(Form1& form);
 
 }  // namespace quill

@@ -7,9 +7,8 @@
 
 namespace quill {
 
-// Reads the number at the head of a text: blanks, tabs and line ends are dropped wherever they
-// stand, then come an optional sign, ASCII digits and at most one decimal point. 0 without a
-// number; no exponents.
+// The number at the start of a text, or 0: an optional sign, ASCII digits and at most one decimal
+// point, no exponent. Blanks, tabs and line ends are ignored wherever they are.
 double Val(std::u32string_view text);
 
 // Nothing unless the text is one or more ASCII digits and nothing else.

@@ -1,8 +1,8 @@
 // The window as it is stored: every control with its kind, container, place and first values.
 //
-// A handler of the program never changes a place, a font or a tool tip; they are read from here
-// once. Places are in twips (1/1440 inch; 15 to a pixel at 96 dots an inch), relative to the
-// container's top left corner.
+// No handler changes a place, a font or a tool tip: they are read from here once. Places are in
+// twips (1/1440 inch; 15 to a pixel at 96 dots an inch), relative to the container's top left
+// corner.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +27,7 @@ enum class Kind : std::uint8_t {
   kFileDialog,
 };
 
-// A colour of the window system's palette, told from plain colours by its highest bit.
+// A colour of the window system's palette, marked by the highest bit.
 constexpr Colour SystemColour(unsigned number) { return 0x80000000U | number; }
 constexpr bool IsSystemColour(Colour colour) { return (colour & 0x80000000U) != 0; }
 
@@ -46,7 +46,7 @@ struct Place {
   int height = 0;
 };
 
-// Stored properties beyond caption and place. What a row does not set has the default of its kind.
+// Stored properties other than caption and place. Those that a row omits have these defaults.
 struct Stored {
   bool enabled = true;
   bool visible = true;
@@ -63,8 +63,7 @@ struct Stored {
   std::u32string_view toolTip = {};
 };
 
-// One row. Rows stand in the order of the stacking, front first, a container before what it
-// contains.
+// One row. Rows are in stacking order, front first, each container before its contents.
 struct CatalogueRow {
   std::string_view name;
   Kind kind;

@@ -1,8 +1,7 @@
 // The kinds of control: what each offers to the handlers, and the events that it raises.
 //
-// A control is a part of its form and lives as long. It finds its stored values in the catalogue
-// by its name. Event slots hold the handlers; the program attaches them, and an empty slot raises
-// nothing.
+// A control is part of its form and lives as long. It takes its stored values from the catalogue,
+// by name. Event slots hold the handlers that the program attaches; an empty slot raises nothing.
 #pragma once
 
 #include <cstddef>
@@ -30,16 +29,16 @@ class Control {
   const CatalogueRow& Row() const { return row_; }
   Form1& Form() const { return form_; }
 
-  // Whether a user can reach it: it and all that contains it are enabled and visible.
+  // Whether the user can reach it: it and all its containers are enabled and visible.
   bool IsInReach() const;
-  // Moves the keyboard focus here, as a statement of a handler: a GotFocus that this raises runs
-  // after the handler. A control out of reach takes no focus.
+  // Moves the keyboard focus here on behalf of a handler; a GotFocus that this raises runs after
+  // that handler. A control out of reach takes no focus.
   void SetFocus();
 
   Property<bool> Enabled;
   Property<bool> Visible;
 
-  // Called by a property after a write that changed it.
+  // Called by a property after its value has changed.
   virtual void Written(PropertyId property);
 
  protected:
@@ -71,14 +70,14 @@ class ComboBox : public Control {
 
   Property<std::u32string> Text;  // the edit line; writing it raises nothing
 
-  // Item i, from 0. Outside the list it fails.
+  // Item i, 0-based. Fails outside the list.
   const std::u32string& List(int i) const;
-  // Replaces item i, or appends where i is the number of items. Beyond that it fails.
+  // Replaces item i, or appends if i is the number of items. Fails beyond that.
   void SetList(int i, std::u32string_view text);
   int ListCount() const { return static_cast<int>(items_.size()); }
 
   Handler Click = nullptr;
-  // A user's pick: the text becomes the row, then Click runs. The row must exist.
+  // The user picks a row, which must exist: it becomes the text, then Click runs.
   void Pick(int row);
 
  private:
@@ -90,30 +89,30 @@ class ListBox : public Control {
   void WriteListIndex(int i);
 
  public:
-  // A list counts its items in sixteen bits.
+  // Items are counted in 16 bits.
   static constexpr int kMostItems = 32767;
 
   ListBox(Form1& form, std::string_view name);
 
-  // Appends, or inserts at the sorted place, behind the items that compare equal. A full list
-  // fails. ListIndex keeps its number.
+  // Appends or, in a sorted list, inserts behind the items that compare equal. Fails if the list is
+  // full. ListIndex keeps its number, whatever item that now is.
   void AddItem(std::u32string_view text);
-  // Adds texts one after the other, in one go; those that a full list has no room for are left out.
+  // As AddItem for each in turn, at one cost; those that a full list has no room for are left out.
   void AddItems(const std::vector<std::u32string>& texts);
-  // Outside the list it fails.
+  // Fails outside the list.
   void RemoveItem(int i);
   void Clear();
   const std::u32string& List(int i) const;
   int ListCount() const { return static_cast<int>(items_.size()); }
   const std::vector<std::u32string>& Items() const { return items_; }
 
-  // -1 for none. Writing a new index raises Click before the write returns; an index outside the
-  // list fails.
+  // -1 for none. Writing a new index raises Click before the write returns; one outside the list
+  // fails.
   Accessor<ListBox, &ListBox::ReadListIndex, &ListBox::WriteListIndex> ListIndex{*this};
 
   Handler Click = nullptr;
-  // A user's click on an item, which must exist: it becomes the selected one and Click runs, also
-  // when it was selected already.
+  // The user clicks on an item, which must exist: it is selected and Click runs, even if it was
+  // selected already.
   void ClickItem(int i);
 
  private:
@@ -121,7 +120,7 @@ class ListBox : public Control {
   void SortFrom(std::ptrdiff_t unsorted);
 
   std::vector<std::u32string> items_;
-  std::vector<std::string> keys_;  // of a sorted list: the items' places in the order
+  std::vector<std::string> keys_;  // of a sorted list: the items' collation keys
   int listIndex_ = -1;
   bool sorted_;
 };
@@ -148,7 +147,7 @@ class MenuItem : public Control {
   Handler Click = nullptr;
 };
 
-// The one file dialog, which serves all purposes.
+// The one file dialog, for opening and saving alike.
 class CommonDialog : public Control {
  public:
   CommonDialog(Form1& form, std::string_view name);

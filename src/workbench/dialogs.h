@@ -1,4 +1,5 @@
-// What the program asks of its user. It has a real form (WindowDialogs) and others for tests.
+// The dialogs through which the program asks its user. WindowDialogs are the real ones; tests,
+// scenarios and benchmarks have others.
 #pragma once
 
 #include <optional>
@@ -18,13 +19,13 @@ struct MessageBox {
   Buttons buttons = Buttons::kOk;
 };
 
-// Modal dialogs. Calls return when the user has answered.
+// Modal: a call returns once the user has answered.
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
 
-  // The path that the user chose, or nothing after a cancel. The filter is pairs of display text
-  // and pattern, all separated by vertical bars.
+  // The chosen path, or nothing if the user cancelled. The filter is pairs of display text and
+  // pattern, all separated by vertical bars.
   virtual std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                                  const std::u32string& filter) = 0;
   virtual std::optional<std::u32string> ShowSave(const std::u32string& title,

@@ -1,4 +1,4 @@
-// What the user typed, cut or pasted, for undo and redo. Marks are no part of it.
+// Undo and redo of what the user typed, cut or pasted. Marks are not part of it.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace quill {
 
-// One edit: `inserted` characters stand at `at`, and the cells are those that stood there before
-// it (or, once undone, those that would stand there after it).
+// One edit: it put `inserted` characters at `at`, in place of the cells. (Once it is undone, the
+// cells are the characters that it had put there.)
 struct Edit {
   Position at = 0;
   Position inserted = 0;
@@ -18,15 +18,15 @@ struct Edit {
 
 class EditHistory {
  public:
-  // Forgets what could be redone.
+  // Discards what could be redone.
   void Add(Edit edit);
   void Clear();
 
   bool CanUndo() const { return done_ > 0; }
   bool CanRedo() const { return done_ < edits_.size(); }
 
-  // The edit to turn round: exchange its `inserted` characters at `at` with its cells, and store
-  // what stood there. Undefined where there is none.
+  // The edit to reverse: exchange its `inserted` characters at `at` for its cells, and store what
+  // was there. Undefined if there is none.
   Edit& StepBack() { return edits_[--done_]; }
   Edit& StepForward() { return edits_[done_++]; }
 

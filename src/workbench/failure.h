@@ -1,5 +1,5 @@
-// What becomes of the rest of a handler where one of its statements fails. Nothing but
-// StatementFailed is caught: the end of the program and bugs pass through.
+// What a handler does when one of its statements fails. Only StatementFailed is caught: the end of
+// the program and bugs pass through.
 #pragma once
 
 #include <utility>
@@ -8,8 +8,8 @@
 
 namespace quill {
 
-// "Carry on": the statement, or the procedure called, is given up where it fails, and the next one
-// runs.
+// "Carry on": abandons the statement, or the procedure it calls, where it fails, and goes on with
+// the next.
 template <class Statement>
 void CarryOn(Statement&& statement) {
   try {
@@ -18,7 +18,7 @@ void CarryOn(Statement&& statement) {
   }
 }
 
-// "Leave": a handler ends, silently, at the first statement that fails; what was done stays done.
+// "Leave": ends the handler silently at the first failure. What it has done stands.
 template <class Handler>
 void LeaveOnFailure(Handler&& handler) {
   CarryOn(std::forward<Handler>(handler));

@@ -1,5 +1,5 @@
-// The one window: its controls, the record of working state, the keyboard focus and what waits
-// for the end of the running handler.
+// The one window: its controls, the record of working state, the keyboard focus and what is
+// deferred until the running handler ends.
 #pragma once
 
 #include <string>
@@ -16,11 +16,11 @@
 
 namespace quill {
 
-// The program ends at once: thrown by Form1::End, caught by nobody but who runs the program.
+// Ends the program: thrown by Form1::End, caught only by whoever runs the program.
 class ProgramEnd {};
 
 class Form1 : public Control {
-  // Before the controls, which enter themselves here while they are made.
+  // Declared before the controls, which register here as they are constructed.
   std::vector<Control*> controls_;
 
  public:
@@ -120,15 +120,15 @@ class Form1 : public Control {
   MenuItem mnuInfo{*this, "mnuInfo"};
   MenuItem mnuVLK{*this, "mnuVLK"};
 
-  // Qualified, as the members bear the names of their types.
+  // Qualified, because the members are named like their types.
   quill::WorkState WorkState;
   quill::TakenTags TakenTags;
 
-  // The controls in the order of the catalogue, without the form itself.
+  // In catalogue order, without the form itself.
   const std::vector<Control*>& Controls() const { return controls_; }
   // nullptr for an unknown name.
   Control* Find(std::string_view name) const;
-  // The control that contains it, the form where it lies directly in the window.
+  // The control that contains it; the form for one that lies directly in the window.
   Control& ContainerOf(const Control& control) const;
 
   Dialogs& TheDialogs() const { return dialogs_; }
@@ -136,8 +136,8 @@ class Form1 : public Control {
 
   // Returns the button pressed.
   Button MsgBox(const MessageBox& box);
-  // Queues keystrokes that arrive after the running handler has ended, in the control that has the
-  // focus then, every character as itself.
+  // Queues keystrokes for whichever control has the focus once the running handler has ended. Every
+  // character arrives as itself.
   void SendKeys(std::u32string_view text) { keys_.append(text); }
   // Ends the program at once.
   [[noreturn]] void End() { throw ProgramEnd(); }
@@ -147,12 +147,12 @@ class Form1 : public Control {
   // Moves the focus without raising anything. Returns whether it moved.
   bool MoveFocus(Control& control);
 
-  // What waits for the end of the running handler, for the program to deliver.
+  // What was deferred until the running handler ends, for the program to deliver.
   std::vector<Handler> TakeFocusEvents() { return std::exchange(focusEvents_, {}); }
   std::u32string TakeKeys() { return std::exchange(keys_, {}); }
   void QueueFocusEvent(Handler handler) { focusEvents_.push_back(handler); }
 
-  // The watcher must outlive the form or be taken off with nullptr.
+  // The watcher must outlive the form or be removed with nullptr.
   void SetWatcher(Watcher* watcher);
   Watcher& TheWatcher() const { return *watcher_; }
 

@@ -1,5 +1,5 @@
-// The texts that guide the user in User_Dialogue. The runs of blanks make empty lines in the box at
-// its stored size.
+// The guidance texts of User_Dialogue. Their runs of blanks show as empty lines at the box's stored
+// size.
 #pragma once
 
 #include <string>

@@ -9,8 +9,8 @@
 
 namespace quill {
 
-// A stored property. Writing a value other than the present one tells its control, which raises
-// what has to be raised before the write returns.
+// A stored property. Writing a new value notifies its control, which raises the events that follow
+// before the write returns.
 template <class T>
 class Property {
  public:
@@ -21,7 +21,7 @@ class Property {
 
   Property& operator=(T value);
   Property& operator=(const Property& other) { return *this = other.value_; }
-  // As a write of the longer text, without the cost of its whole length.
+  // As writing the longer text, at the cost of one character.
   Property& operator+=(char32_t character) requires std::same_as<T, std::u32string> {
     value_ += character;
     Tell();
@@ -51,7 +51,7 @@ bool operator==(const Property<T>& left, const Property<T>& right) {
 template <class Owner, class T>
 T ResultOf(T (Owner::*)() const);
 
-// A property that the owner works out: reading and writing call members of it.
+// A computed property: reading and writing call members of the owner.
 template <class Owner, auto Read, auto Write>
 class Accessor {
  public:

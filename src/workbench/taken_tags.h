@@ -1,5 +1,5 @@
-// The lines that the user took out of TagList, to edit or to remove them, while the tag list file
-// still holds them. Whoever rewrites that file may drop these lines and no others.
+// The lines that the user has taken out of TagList, to edit or remove them, and that are still in
+// the tag list file. A rewrite of that file may drop these lines and no others.
 #pragma once
 
 #include <string>

@@ -1,8 +1,8 @@
 // The text control: the text, its attributes, and the one selection.
 //
 // Positions count characters from 0. Writes of the selection are clamped to the text. Attributes
-// written to an empty selection are remembered for what is typed next at that place; a write of
-// SelStart or SelLength, also of the value that it has, or a selection by the user forgets them.
+// written to an empty selection apply to what is typed there next; any write of SelStart or
+// SelLength, even of the same value, or a selection by the user discards them.
 #pragma once
 
 #include <cstddef>
@@ -37,11 +37,11 @@ class TextSurface : public Control {
   Position Length() const { return document_.Length(); }
   std::u32string SelText() const;
 
-  // Writing SelStart empties the selection. Beyond the text's end it is the end; below 0 it is 0.
+  // Writing it empties the selection. Clamped to the text.
   Accessor<TextSurface, &TextSurface::ReadSelStart, &TextSurface::WriteSelStart> SelStart{*this};
-  // Beyond the text's end it is what remains; below 0 it is 0.
+  // Clamped to what remains of the text.
   Accessor<TextSurface, &TextSurface::ReadSelLength, &TextSurface::WriteSelLength> SelLength{*this};
-  // Reading an attribute gives nothing where the selection mixes its values.
+  // Reading an attribute gives nothing if its value varies within the selection.
   Accessor<TextSurface, &TextSurface::ReadSelColor, &TextSurface::WriteSelColor> SelColor{*this};
   // In twips.
   Accessor<TextSurface, &TextSurface::ReadSelCharOffset, &TextSurface::WriteSelCharOffset>
@@ -50,26 +50,25 @@ class TextSurface : public Control {
   Accessor<TextSurface, &TextSurface::ReadSelUnderline, &TextSurface::WriteSelUnderline>
       SelUnderline{*this};
 
-  // Selects the span of a tag, told by its first and last character, 1-based. A span that begins
-  // before the text selects nothing, with the caret at 0; one that ends before its start is empty;
-  // fractions are rounded to the nearest whole number.
+  // Selects the span of a tag, given by its first and last character, 1-based. A start below 1 puts
+  // the caret at 0 and selects nothing; a span that ends before its start is empty; fractions are
+  // rounded to the nearest whole number.
   void SelectSpan(double start, double end);
 
   // Takes the underline off every character but the first, and puts the caret at 0.
   void ClearUnderlines();
 
-  // What selecting each range and writing to it would do, but for the selection. The ranges must
-  // lie inside the text, in order and apart.
+  // As selecting each range and writing its attributes, but leaves the selection alone. The ranges
+  // must lie within the text, in ascending order and without overlap.
   void Format(const std::vector<Range>& ranges, const AttributeChange& change);
-  // What SelCharOffset would read with the range, not empty, selected.
+  // What SelCharOffset would read if the range, which must not be empty, were selected.
   std::optional<Twips> CharOffset(Range range) const;
 
-  // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, where
-  // the file cannot be read or is no text.
+  // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, if
+  // the file cannot be read or is not text.
   void LoadFile(const std::u32string& path);
-  // Writes the text as rich text. Where the file is the one last loaded or saved and somebody else
-  // has changed it since, what it holds is kept beside it. Fails where the file cannot be written,
-  // or not be kept.
+  // Writes the text as rich text. If the file is the one last loaded or saved and another program
+  // has changed it since, its content is kept beside it. Fails if it cannot be kept or written.
   void SaveFile(const std::u32string& path);
   // The path last loaded from or saved to; empty before.
   const std::u32string& FilePath() const { return filePath_; }
@@ -86,19 +85,18 @@ class TextSurface : public Control {
   // that was undone counts.
   bool HasUnsavedChanges() const { return document_.Changes() != savedChanges_; }
 
-  // The first position in [from, text's end) of a character that has, or lacks, a colour; the
-  // text's length where there is none.
+  // The first position at or behind `from` of a character that has, or lacks, a colour; the text's
+  // length if there is none.
   Position FindColour(Position from, Colour colour) const;
   Position FindOtherColour(Position from, Colour colour) const;
 
-  // What a user's keys do. Each leaves the caret behind what it typed, and does nothing where the
-  // table would lose the end of a cell or row without its whole row.
+  // What the user's keys do. Each leaves the caret behind what it typed, and does nothing if a
+  // table would lose the end of a cell or row without the whole row.
 
   // Selects with mouse or keys; both ends are clamped.
   void UserSelects(Position start, Position length);
-  // Types over the selection as one edit; NUL is no character. Characters typed again where they
-  // stood (the common beginning and end) stay the characters they were and take only the
-  // attributes.
+  // Replaces the selection, as one edit; NULs are dropped. Characters that the old and the new text
+  // share at either end are kept and only take the attributes.
   void TypeOver(std::u32string_view text);
   // Deletes a range as one edit.
   void UserDeletes(Range range);
@@ -118,7 +116,7 @@ class TextSurface : public Control {
   bool IsChangedByOthers(const std::string& path, std::string_view bytes) const;
   void Select(Range range);
   void Write(const AttributeChange& change);
-  // Turns an edit round.
+  // Reverses an edit.
   void Exchange(Edit& edit);
 
   Document document_;

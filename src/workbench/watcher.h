@@ -1,4 +1,4 @@
-// Who watches the window model: the real window, and tests.
+// The observer of the window model: the real window, or a test.
 #pragma once
 
 #include "text/document.h"
@@ -9,7 +9,7 @@ class Control;
 class ListBox;
 class ComboBox;
 
-// Which property of a control was written with a new value.
+// The property of a control whose value changed.
 enum class PropertyId {
   kText,
   kEnabled,
@@ -21,31 +21,31 @@ enum class PropertyId {
   kListIndex
 };
 
-// Calls arrive inside the write, in the order of the writes. A watcher only looks: it must not
-// write to the model before the action has ended.
+// Called inside each write, in order. A watcher must not write to the model before the action has
+// ended.
 class Watcher {
  public:
   virtual ~Watcher() = default;
 
   virtual void PropertyChanged(Control& /*control*/, PropertyId /*property*/) {}
-  // Of one item that came or went, its index is told; of more, only that they changed.
+  // A single item added or removed is reported by its index; several, as a change of the list.
   virtual void ItemsChanged(ListBox& /*list*/) {}
   virtual void ItemInserted(ListBox& /*list*/, int /*index*/) {}
   virtual void ItemRemoved(ListBox& /*list*/, int /*index*/) {}
   virtual void RowChanged(ComboBox& /*combo*/, int /*row*/) {}
-  // Another text is about to take the place of this one: the last look at it.
+  // Another text is about to replace this one: the last look at it.
   virtual void TextLeaves() {}
-  // The whole text is another one.
+  // The whole text was replaced.
   virtual void TextLoaded() {}
-  // `inserted` characters stand at `at` where `removed` characters stood.
+  // At `at`, `inserted` characters have replaced `removed` characters.
   virtual void TextReplaced(Position /*at*/, Position /*removed*/, Position /*inserted*/) {}
-  // Attributes of the range changed; every character of it may differ from what was shown.
+  // Attributes changed within the range; any of its characters may look different.
   virtual void FormatChanged(Range /*range*/) {}
   virtual void SelectionChanged() {}
   // Whether the selection of the text is to be scrolled into sight; the last word counts.
   virtual void RevealAsked(bool /*reveal*/) {}
   virtual void FocusMoved() {}
-  // A modal dialog is about to open; whatever was written is to be on show behind it.
+  // A modal dialog is about to open; what has been written must be visible behind it.
   virtual void DialogOpens() {}
 };
 
