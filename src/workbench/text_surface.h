@@ -125,7 +125,7 @@ class TextSurface : public Control {
   EditHistory history_;
   std::u32string filePath_;
   std::u32string sourcePath_;
-  std::size_t fileContent_ = 0;  // a hash of what the file held when last loaded or saved
+  std::size_t fileContent_ = 0;     // a hash of what the file held when last loaded or saved
   std::uint64_t savedChanges_ = 0;  // what the document counted then
 };
 

@@ -101,9 +101,8 @@ const HeightGuess::Letters& HeightGuess::LettersOf(const QTextBlock& block) {
   const auto [entry, isNew] = letters_.try_emplace(block.charFormatIndex());
   if (isNew) {
     const QFontMetricsF metrics = MetricsOf(block.charFormat(), shown_);
-    entry->second = {
-        std::max(metrics.averageCharWidth(), 1.0),
-        static_cast<int>(std::ceil(metrics.lineSpacing()))};
+    entry->second = {std::max(metrics.averageCharWidth(), 1.0),
+                     static_cast<int>(std::ceil(metrics.lineSpacing()))};
   }
   return entry->second;
 }
