@@ -148,7 +148,7 @@ void DocumentView::Reveal(Range range) {
     const int value = bar.value() + place.top() - band.top - room / 3;
     if (value < 0 && bands.size() > 1 && band.top > 0) continue;
     // The end of the text may have to leave the bottom, to come out from under a panel.
-    if (bands.size() > 1) bar.setMaximum(std::max(bar.maximum(), value));
+    if (bands.size() > 1) PageLayout::Of(*document()).ReachTo(value + viewport()->height());
     bar.setValue(value);
     return;
   }

@@ -119,7 +119,8 @@ TEST_F(FocusTest, TabFollowsThePanels) {
       EXPECT_EQ(FocusName(), *stop) << "back";
     }
   };
-  for (CommandButton* button : {&form.AMarkSet, &form.BMarkSet, &form.Add_to_spec_dict}) {
+  for (CommandButton* button : {&form.AMarkSet, &form.BMarkSet, &form.A_type_add, &form.B_type_add,
+                                &form.Add_to_spec_dict}) {
     button->Enabled = true;
   }
   expectRound({"DefAMarker",

@@ -97,6 +97,7 @@ TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
     QTest::mouseClick(&Widget("Text2"), Qt::LeftButton);
     QTest::keyClick(View().viewport(), Qt::Key_X);
     EXPECT_EQ(form.Text2.Text.Get(), U"Definition?");
+    EXPECT_NE(window.focusWidget(), &Widget("Text2"));
     ExpectShown(window, form);
     return buttons.at(asked++);
   };

@@ -44,6 +44,7 @@ void PageLayout::MeasureLetters() {
 
 void PageLayout::LayOutAnew() {
   page_ = PageIn(document()->textWidth(), *document(), letters_);
+  leastHeight_ = 0;
   HeightGuess guess(*document(), page_);
   std::vector<int> heights;
   heights.reserve(static_cast<std::size_t>(document()->blockCount()));
@@ -109,6 +110,11 @@ bool PageLayout::LayOut(double top, double bottom) {
   return corrected;
 }
 
+void PageLayout::ReachTo(double bottom) {
+  leastHeight_ = bottom;
+  AnnounceSize();
+}
+
 void PageLayout::AnnounceSize() {
   const QSizeF size = documentSize();
   if (size == announced_) return;
@@ -161,7 +167,8 @@ int PageLayout::hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) cons
 }
 
 QSizeF PageLayout::documentSize() const {
-  const double height = 2 * page_.margin + static_cast<double>(heights_.Total());
+  const double text = 2 * page_.margin + static_cast<double>(heights_.Total());
+  const double height = std::max(text, leastHeight_);
   return {document()->textWidth(), std::min(height, kMostHeight)};
 }
 

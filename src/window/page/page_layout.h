@@ -36,6 +36,8 @@ class PageLayout final : public QAbstractTextDocumentLayout {
   // Breaks the paragraphs into lines that reach into a stretch of the page. Returns whether one of
   // them was not as high as guessed.
   bool LayOut(double top, double bottom);
+  // Makes the page at least so high, beyond the end of the text, until it is laid out anew.
+  void ReachTo(double bottom);
   // Tells the view what is known of the page's size by now.
   void AnnounceSize();
 
@@ -77,6 +79,7 @@ class PageLayout final : public QAbstractTextDocumentLayout {
   mutable Heights heights_;  // empty until the page has a width
   Corrected corrected_;
   QSizeF announced_;
+  double leastHeight_ = 0;
 };
 
 }  // namespace quill

@@ -38,7 +38,7 @@ int WholePixels(double length) { return static_cast<int>(std::lround(length)); }
 
 Page PageIn(double width, const QTextDocument& shown, const QTextCharFormat& letters) {
   const double scale = ScaleOf(shown);
-  const double margin = shown.documentMargin() * scale;
+  const double margin = WholePixels(shown.documentMargin() * scale);
   const double room = std::max(width - 2 * margin, kLeastLineWidth);
   const double most =
       std::ceil(kMostCharactersInLine * MetricsOf(letters, shown).averageCharWidth());
