@@ -30,5 +30,6 @@ for y, row in enumerate(rows):
 with open(sys.argv[2], "w", encoding="utf-8") as chart:
     chart.write('<svg xmlns="http://www.w3.org/2000/svg" width="420" '
                 f'height="{24 * len(rows) + 40}" font-family="sans-serif" font-size="13">\n'
+                '<rect width="100%" height="100%" fill="white"/>\n'
                 '<text x="100" y="16">tags by granularity: absolute dark, relative light</text>\n'
                 + "\n".join(bars) + "\n</svg>\n")
