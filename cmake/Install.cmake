@@ -1,14 +1,16 @@
 # What `cmake --install` lays where a desktop looks for it, and the Debian package of that.
 include(GNUInstallDirs)
 set(app_id org.quillorandix.Quillorandix)
-install(TARGETS quillorandix)
+install(TARGETS quillorandix quilltags)
 install(FILES data/${app_id}.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES data/${app_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES data/${app_id}.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
   RENAME ${app_id}.xml)
 install(FILES data/${app_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES data/quillorandix.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES data/quillorandix.1 data/quilltags.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES data/quilltags.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+  RENAME quilltags)
 install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)

@@ -7,4 +7,5 @@ program_packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libicu-dev nloh
 window_packages="qt6-wayland fonts-dejavu-core fonts-liberation fonts-wqy-microhei fonts-symbola"
 test_packages="libgtest-dev fonts-dejavu-core"
 check_packages="clang libclang-rt-14-dev clang-tidy clang-format libbenchmark-dev \
-  desktop-file-utils appstream mandoc shared-mime-info file dpkg-dev"
+  desktop-file-utils appstream mandoc shared-mime-info file dpkg-dev \
+  r-base-core libuima-core-java default-jdk-headless"

@@ -82,7 +82,7 @@ class Pairing {
   std::vector<int> Lengths(Stretch left, Stretch right, bool backward) {
     // A bit that is 0 says that the length grows there.
     row_.assign((right.Length() + kBits - 1) / kBits, ~Word{0});
-    mask_.assign(row_.size(), 0);
+    masks_.clear();
     for (std::size_t i = 0; i < left.Length(); ++i) {
       AddSymbol(left_[backward ? left.end - 1 - i : left.begin + i], right, backward);
     }
@@ -97,20 +97,32 @@ class Pairing {
   void AddSymbol(std::uint32_t symbol, Stretch right, bool backward) {
     const Places places = PlacesOf(symbol, right);
     if (places.begin == places.end) return;
-    const auto bit = [&](std::size_t place) {
-      return backward ? right.end - 1 - place : place - right.begin;
-    };
+    const auto [known, isNew] = masks_.try_emplace(symbol);
+    if (isNew) known->second = MaskOf(places, right, backward);
+    AddRow(known->second);
+    // Only those that save more than their room are kept: there are at most as many as a word has
+    // bits.
+    const auto count = static_cast<std::size_t>(places.end - places.begin);
+    if (count < row_.size()) masks_.erase(known);
+  }
+
+  std::vector<Word> MaskOf(Places places, Stretch right, bool backward) const {
+    std::vector<Word> mask(row_.size(), 0);
     for (const std::size_t* p = places.begin; p != places.end; ++p) {
-      mask_[bit(*p) / kBits] |= Word{1} << (bit(*p) % kBits);
+      const std::size_t bit = backward ? right.end - 1 - *p : *p - right.begin;
+      mask[bit / kBits] |= Word{1} << (bit % kBits);
     }
+    return mask;
+  }
+
+  void AddRow(const std::vector<Word>& mask) {
     Word carry = 0;
     for (std::size_t w = 0; w < row_.size(); ++w) {
-      const Word matches = row_[w] & mask_[w];
+      const Word matches = row_[w] & mask[w];
       const Word sum = row_[w] + matches + carry;
       carry = sum < row_[w] || (carry != 0 && sum == row_[w]) ? 1 : 0;
-      row_[w] = sum | (row_[w] & ~mask_[w]);
+      row_[w] = sum | (row_[w] & ~mask[w]);
     }
-    for (const std::size_t* p = places.begin; p != places.end; ++p) mask_[bit(*p) / kBits] = 0;
   }
 
   const Symbols& left_;
@@ -118,7 +130,7 @@ class Pairing {
   std::unordered_map<std::uint32_t, std::vector<std::size_t>> places_;
   std::vector<std::optional<std::size_t>> partners_;
   std::vector<Word> row_;
-  std::vector<Word> mask_;
+  std::unordered_map<std::uint32_t, std::vector<Word>> masks_;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "companion/circles.h"
+#include "companion/one_line.h"
 #include "companion/placement.h"
 #include "companion/raised.h"
 #include "text/unicode.h"
@@ -13,7 +14,8 @@
 namespace quill::companion {
 namespace {
 
-std::string Quoted(std::u32string_view text) { return "\"" + ToUtf8(text) + "\""; }
+// In one line, as every finding is.
+std::string Quoted(std::u32string_view text) { return "\"" + InOneLine(text) + "\""; }
 
 // As in tag lines: from 1, both ends included.
 std::string PlaceText(Range range) {

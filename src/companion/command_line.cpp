@@ -122,6 +122,17 @@ void PutCommandFirst(std::vector<std::string>& arguments) {
   if (at != arguments.end()) std::rotate(arguments.begin(), at, at + 1);
 }
 
+bool IsCommand(const std::string& name) {
+  const std::vector<Command>& all = Commands();
+  return std::any_of(all.begin(), all.end(),
+                     [&](const Command& command) { return command.name == name; });
+}
+
+int Refuse(const std::string& why, std::ostream& err) {
+  err << "quilltags: " << why << "\nTry \"quilltags --help\".\n";
+  return Console::kFailure;
+}
+
 int Run(const Command& command, const Options& options, std::ostream& out, std::ostream& err) {
   Console console(out, err);
   try {
@@ -155,13 +166,15 @@ int RunCommandLine(std::vector<std::string> arguments, const std::string& versio
   }
   ShieldBrackets(arguments);
   PutCommandFirst(arguments);
+  if (!arguments.front().starts_with('-') && !IsCommand(arguments.front())) {
+    return Refuse(arguments.front() + " is no command", err);
+  }
   std::reverse(arguments.begin(), arguments.end());
   try {
     program.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return program.exit(error, out, err);
-    err << "quilltags: " << error.what() << "\nTry \"quilltags --help\".\n";
-    return Console::kFailure;
+    return Refuse(error.what(), err);
   }
   TakeShieldsOff(options);
   for (std::size_t i = 0; i < apps.size(); ++i) {

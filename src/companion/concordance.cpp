@@ -5,21 +5,12 @@
 
 #include "companion/command.h"
 #include "companion/csv.h"
+#include "companion/one_line.h"
 #include "companion/output.h"
 #include "companion/tagged_text.h"
-#include "text/unicode.h"
 
 namespace quill::companion {
 namespace {
-
-// In one line, whatever lines and columns the text has.
-std::string InOneLine(std::u32string_view text) {
-  std::u32string line(text);
-  for (char32_t& c : line) {
-    if (c == kParagraphEnd || c == kLineBreak || c == U'\t') c = U' ';
-  }
-  return ToUtf8(line);
-}
 
 std::string Concordance(const TaggedText& text, Position width) {
   std::vector<const Tag*> tags;

@@ -35,6 +35,7 @@ void PlaceByMarks(const Text& text, const std::vector<Range>& raised, std::vecto
     left.push_back(spellings.NumberOf(blocks[i].spelling));
     which.push_back(i);
   }
+  right.reserve(raised.size());
   for (const Range& stretch : raised) right.push_back(spellings.NumberOf(text.At(stretch)));
   const std::vector<std::optional<std::size_t>> partners = CommonPairs(left, right);
   for (std::size_t i = 0; i < partners.size(); ++i) {
