@@ -101,6 +101,23 @@ TEST_F(ParsingList, AFullListTakesNoMore) {
   // One after the other: the first found room.
   EXPECT_EQ(form.Parse_listbox.Items().back(), U"c\\");
   EXPECT_EQ(form.Parse_listbox.Items().front(), U"b\\");
+
+  // The file takes what the list does not.
+  program.Enter(form.add_to_dictionary, U"d");
+  program.Click(form.A_type_add);
+  program.Click(form.Add_to_spec_dict);
+  EXPECT_NE(disk.files["road.spd"].find("\nd\\"), std::string::npos);
+  EXPECT_FALSE(form.Frame1.Enabled);
+  // Nor do the removed ones come back: they are given up.
+  form.TempList.AddItem(U"a\\");
+  form.Undo_Parse_Cull.Enabled = true;
+  program.Click(form.Undo_Parse_Cull);
+  EXPECT_EQ(form.TempList.ListCount(), 0);
+  EXPECT_FALSE(form.Undo_Parse_Cull.Enabled);
+  form.TempList.AddItems(std::vector<std::u32string>(ListBox::kMostItems, U"a"));
+  Remove(0);
+  EXPECT_EQ(form.Parse_listbox.ListCount(), ListBox::kMostItems - 1);
+  EXPECT_TRUE(form.Undo_Parse_Cull.Enabled);
 }
 
 // Every line an entry in file form, and none twice.

@@ -231,8 +231,9 @@ TEST(Player, DumpsLinesThatNoReaderBreaks) {
 }
 
 // The exit status of the program itself.
-int Status(const std::string& arguments) {
-  const std::string command = "'" QUILL_PLAY "' " + arguments + " >play.out 2>play.err";
+int Status(const std::string& arguments, const std::string& environment = "") {
+  const std::string command =
+      "env " + environment + " '" QUILL_PLAY "' " + arguments + " >play.out 2>play.err";
   const int status = std::system(command.c_str());
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
@@ -252,6 +253,26 @@ TEST(Play, EndsWithTheOutcomeAsItsStatus) {
     EXPECT_EQ(Status(arguments), 2) << arguments;
     EXPECT_EQ(Contents("play.err").rfind("play: ", 0), 0U) << arguments;
   }
+}
+
+// In Swedish the letter stands behind all others.
+TEST(Play, SortsAsTheUsersLocaleDoes) {
+  const ScenarioFolder place(OwnScenarios());
+  const std::string start =
+      "answer \"day.rtf\"\nanswer proposed\nclick mnuFileOpen\n"
+      "click Add_specific_parsing_list\nexpect Parse_listbox.List ";
+  std::ofstream("day.spd") << "z\n\u00E4\n";
+  std::ofstream("german") << start << "[\"\u00E4\",\"z\"]\n";
+  std::ofstream("swedish") << start << "[\"z\",\"\u00E4\"]\n";
+  const struct {
+    const char* environment;
+    const char* order;
+  } kRows[] = {{"LC_ALL=sv_SE LC_COLLATE=de_DE LANG=de_DE", "swedish"},
+               {"LC_ALL=de_DE LC_COLLATE=sv_SE LANG=sv_SE", "german"},
+               {"LC_ALL= LC_COLLATE=sv_SE LANG=de_DE", "swedish"},
+               {"LC_ALL= LC_COLLATE= LANG=sv_SE", "swedish"},
+               {"LC_ALL=C LC_COLLATE=sv_SE LANG=sv_SE", "german"}};
+  for (const auto& row : kRows) EXPECT_EQ(Status(row.order, row.environment), 0) << row.environment;
 }
 
 }  // namespace

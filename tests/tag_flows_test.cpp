@@ -60,7 +60,7 @@ TEST_F(TagFlows, WhatALineShowsInTheText) {
     const char32_t* refStart;
   } kRows[] = {
       {"no reference",
-       U"t_op(1\\ 5\\ 7\\ \\ \\ \\ \\ \\ relative\\ \\ \\ \\ R\\  \\   )",
+       U"t_op(007\\ 5\\ 7\\ \\ \\ \\ \\ \\ relative\\ \\ \\ \\ R\\  \\   )",
        ".................",
        {4, 7},
        true,
@@ -122,6 +122,7 @@ TEST_F(TagFlows, WhatALineShowsInTheText) {
     EXPECT_EQ(ToUtf8(form.RefTagStart.Text.Get()), ToUtf8(row.refStart)) << row.about;
     EXPECT_EQ(form.TaggedString.Text, row.line) << row.about;
     EXPECT_EQ(form.TagList.ListIndex, 0) << row.about;
+    EXPECT_TRUE(form.ID.Text == CutTag(row.line)[TagField::kId]) << row.about;
   }
 }
 

@@ -1,4 +1,4 @@
-// Generating a tag where its file fails.
+// Generating a tag where its file fails, or its list.
 #include <gtest/gtest.h>
 
 #include "support/workbench.h"
@@ -32,6 +32,15 @@ TEST_F(TagGeneration, CarriesOnWhereTheFileCannotBeWritten) {
   EXPECT_EQ(text.Selection(), (Range{0, 0}));
   EXPECT_FALSE(form.User_Dialogue.Text == ProcessGuidance());
   EXPECT_EQ(form.WorkState.TagListFile, U"x.tlf");
+}
+
+TEST_F(TagGeneration, CarriesOnWhereTheListIsFull) {
+  form.TagList.AddItems(std::vector<std::u32string>(ListBox::kMostItems, U"t_op(6\\"));
+  program.Click(form.Generate_Tag);
+  EXPECT_EQ(form.TagList.ListCount(), ListBox::kMostItems);
+  EXPECT_TRUE(disk.files["x.tlf"].starts_with("t_op(7\\ 5\\ 7\\ two\\"));
+  EXPECT_EQ(Drawing(text), "B...aaa.....b");
+  EXPECT_EQ(text.Doc().At(4).offset, 25);
 }
 
 }  // namespace

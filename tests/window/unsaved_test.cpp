@@ -229,6 +229,9 @@ TEST_F(UnsavedTest, AreLeftAloneWhereNoCopyCanBe) {
 
 class CopyFolderTest : public testing::Test {
  protected:
+  // The toolkit cannot remove every name.
+  ~CopyFolderTest() override { fs::remove_all(path); }
+
   // Leaves a copy behind.
   std::string Leave(const std::string& text, std::chrono::hours age) {
     const UnsavedCopy copy = folder.Make(text);
