@@ -1,4 +1,4 @@
-// Opening, saving and leaving, on every path and with every failure.
+// Opening, saving and leaving where something fails. What happens otherwise is told by scenarios.
 #include <gtest/gtest.h>
 
 #include "disk/text_lines.h"
@@ -37,62 +37,6 @@ struct FilesBench : Workbench {
 };
 
 struct Files : testing::Test, FilesBench {};
-
-TEST_F(Files, OpensAWorkingCopy) {
-  disk.files["x.tlf"] = "one\r\n\r\nthree\r\n";
-  form.Infoframe.Visible = true;
-  form.TagList.AddItem(U"of the former text");
-  form.AMarkedString.Text = U"pending";
-  form.StartPosition.Text = U"7";
-  form.WorkState.TagEnd = 12;
-  Open({u32string(U"x.tbf")});
-  EXPECT_EQ(State(),
-            "Quillorandix v 1.07 processing x.tbf; base x.tbf; tags x.tlf; dictionary x.spd; "
-            "PreFrame Frame5 mnuProcess");
-  EXPECT_EQ(text.Text(), U"a copy");
-  EXPECT_EQ(disk.files["x.spd"], "");
-  EXPECT_EQ(form.TagList.Items(), (std::vector<u32string>{U"one", U"", U"three"}));
-  EXPECT_EQ(form.User_Dialogue.Text, PreProcessIntro());
-  EXPECT_EQ(form.AMarkedString.Text, U"");
-  EXPECT_EQ(form.TaggedString.Text, U"");
-  EXPECT_EQ(form.StartPosition.Text, U"Start");
-  EXPECT_FALSE(form.ClassCombo.Enabled);
-  EXPECT_FALSE(form.Infoframe.Visible);
-  EXPECT_FALSE(form.mnuDialogue_on.Enabled);
-  EXPECT_EQ(form.WorkState.TagEnd.Get(), 12);
-}
-
-TEST_F(Files, ShowsTheDialogsAsTheyAreWorded) {
-  Open({u32string(U"x.rtf"), Proposed()});
-  ASSERT_EQ(dialogs.shown.size(), 2U);
-  EXPECT_EQ(dialogs.shown[0].title, U"Load existing *.tbf-file or new *.rtf-file for tagging");
-  EXPECT_EQ(dialogs.shown[0].filter,
-            U" tbf-files(*.tbf)| *.tbf| rtf-files (*.rtf)| *.rtf| All files (*.*)|*.*");
-  EXPECT_EQ(dialogs.shown[1].title, U"Create and save a *.tbf working copy of the input file");
-  EXPECT_EQ(dialogs.shown[1].filter, U"Tagged TextBaseFiles(*.tbf)|*.tbf");
-  EXPECT_EQ(dialogs.shown[1].proposed, U"x.tbf");
-  dialogs.answers = {Proposed()};
-  program.Click(form.mnuFileSave);
-  EXPECT_EQ(dialogs.shown[2].title, U"Save your tagged *.tbf-file");
-  EXPECT_EQ(dialogs.shown[2].filter, U"Tagged TextBaseFiles(*.tbf)|*.tbf");
-  EXPECT_EQ(dialogs.shown[2].proposed, U"x.tbf");
-  EXPECT_EQ(form.Caption, U"Quillorandix v1.05 ----- saved files x.tbf + x.tlf");
-}
-
-TEST_F(Files, MakesAWorkingCopyOfANewText) {
-  disk.files["x.tlf"] = "a tag\n";
-  Open({u32string(U"x.rtf"), u32string(U"other.tbf")});
-  EXPECT_EQ(State(),
-            "Quillorandix v1.07 ----- saved files other.tbf + other.tlf; base other.tbf; tags "
-            "other.tlf; dictionary x.spd; PreFrame Frame5 mnuProcess");
-  EXPECT_EQ(disk.files["x.rtf"], "old text");
-  EXPECT_EQ(disk.files["other.tlf"], "");
-  EXPECT_FALSE(disk.Has("other.spd"));
-  EXPECT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_EQ(form.User_Dialogue.Text, ProcessGuidance());
-  Open({u32string(U"other.tbf")});
-  EXPECT_EQ(text.Text(), U"old text");
-}
 
 TEST_F(Files, EndsEarlyAsTheUserOrTheDiskWants) {
   struct Row {
@@ -210,20 +154,6 @@ TEST_F(Files, StopsAtMoreTagsThanAListHolds) {
   EXPECT_EQ(State(), ToUtf8(kStart) + "; base x.tbf; tags x.tlf; dictionary ; PreFrame");
 }
 
-TEST_F(Files, SavesUnderAnotherNameWithATagListOfItsOwn) {
-  disk.files["x.tlf"] = "a tag\r\n";
-  Open({u32string(U"x.tbf")});
-  dialogs.answers = {u32string(U"y.tbf")};
-  program.Click(form.mnuFileSave);
-  EXPECT_EQ(State(),
-            "Quillorandix v1.05 ----- saved files y.tbf + y.tlf; base y.tbf; tags y.tlf; "
-            "dictionary x.spd; PreFrame Frame5 mnuProcess");
-  EXPECT_EQ(disk.files["y.tlf"], "");
-  EXPECT_EQ(disk.files["x.tlf"], "a tag\r\n");
-  EXPECT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_EQ(form.User_Dialogue.Text, ProcessGuidance());
-}
-
 TEST(Saving, KeepsAWorkingCopyThatSomebodyElseChanged) {
   const struct {
     const char* about;
@@ -284,34 +214,6 @@ TEST_F(Files, SaveTellsTheUserOfAFailure) {
               "Quillorandix v 1.07 processing x.tbf; base y.tbf; tags y.tlf; dictionary x.spd; "
               "PreFrame Frame5 mnuProcess");
   }
-}
-
-TEST_F(Files, SaveAndExitAskNothingBeforeATextWasChosen) {
-  program.Click(form.mnuFileSave);
-  EXPECT_FALSE(program.Ended());
-  program.Click(form.mnuFileClose);
-  EXPECT_TRUE(program.Ended());
-  EXPECT_TRUE(dialogs.shown.empty());
-}
-
-TEST_F(Files, ACancelledSaveOrExitChangesNothing) {
-  Open({u32string(U"x.tbf")});
-  const std::string before = State();
-  for (MenuItem* item : {&form.mnuFileSave, &form.mnuFileClose}) {
-    dialogs.answers = {Cancel()};
-    program.Click(*item);
-    EXPECT_EQ(State(), before);
-    EXPECT_FALSE(program.Ended());
-  }
-}
-
-TEST_F(Files, ExitSavesAndEndsTheProgram) {
-  Open({u32string(U"x.tbf")});
-  dialogs.answers = {u32string(U"y.tbf")};
-  program.Click(form.mnuFileClose);
-  EXPECT_TRUE(disk.Has("y.tbf") && disk.Has("y.tlf"));
-  EXPECT_EQ(form.Caption, U"Quillorandix v1.05 ----- saved files y.tbf + y.tlf");
-  EXPECT_TRUE(program.Ended());
 }
 
 TEST_F(Files, ExitEndsTheProgramAlsoWhereNothingCouldBeSaved) {
