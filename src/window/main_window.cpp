@@ -74,6 +74,7 @@ MainWindow::MainWindow(Program& program)
   // A window that comes back to the front would give the keys to some control, had the desk no use
   // for them. A click on the desk changes nothing.
   desk_->setFocusPolicy(Qt::TabFocus);
+  desk_->setAccessibleName(QStringLiteral("Quillorandix"));
   room_->setWidget(desk_);
   setCentralWidget(room_);
   BuildMenus();
