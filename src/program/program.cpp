@@ -80,6 +80,13 @@ void Program::Click(MenuItem& item) {
   });
 }
 
+void Program::PressKeyFor(CommandButton& button) {
+  if (!button.IsInReach()) return;
+  Run([&] {
+    if (button.Click != nullptr) button.Click(form_);
+  });
+}
+
 void Program::ClickItem(ListBox& list, int item) {
   if (!list.IsInReach()) return;
   Run([&] {

@@ -25,6 +25,8 @@ class Program {
   // Clicking a button moves the focus to it; clicking a menu item does not.
   void Click(CommandButton& button);
   void Click(MenuItem& item);
+  // A key of the window that stands for the button: the focus stays where it is.
+  void PressKeyFor(CommandButton& button);
   // The item must exist.
   void ClickItem(ListBox& list, int item);
   void Pick(ComboBox& combo, int row);

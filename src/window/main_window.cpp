@@ -151,7 +151,8 @@ void MainWindow::BuildShortcuts() {
   };
   add(QKeySequence::Save, [this] { actions_.Click(form_.mnuFileSave); });
   add(QKeySequence::Cancel, [this] {
-    actions_.Click(form_.Close_Info.IsInReach() ? form_.Close_Info : form_.CloseIDFrame);
+    CommandButton& close = form_.Close_Info.IsInReach() ? form_.Close_Info : form_.CloseIDFrame;
+    actions_.Do([&](Program& program) { program.PressKeyFor(close); });
   });
 }
 
