@@ -7,8 +7,12 @@
 #include <pugixml.hpp>
 #include <random>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "companion/command_line.h"
+#include "support/scenario_folder.h"
 
 namespace quill::companion {
 namespace {
@@ -140,6 +144,16 @@ TEST(CompanionPicture, StaysSmallAndTheSame) {
   EXPECT_EQ(MarksIn(parsed).size(), 5000U);
   EXPECT_EQ(ArcsIn(parsed), 5000U);
   EXPECT_NO_FATAL_FAILURE(Parsed(DrawPicture(Picture{})));
+}
+
+TEST(CompanionPicture, InTheDocumentsIsWhatTheProgramDraws) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const std::string project = QUILL_PROJECT;
+  ASSERT_EQ(
+      RunCommandLine({"picture", project + "/examples/the-ferry.tbf", "-o", "-"}, "1", out, err),
+      0);
+  EXPECT_EQ(out.str(), test::Contents(project + "/docs/pictures/the-ferry.svg"));
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ class HandPlugin : public QGenericPlugin {
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "hand.json")
 
  public:
-  QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
+  QObject* create(const QString& /*name*/, const QString& /*settings*/) override {
     return new Hand;
   }
 };
