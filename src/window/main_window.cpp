@@ -176,7 +176,9 @@ QWidget& MainWindow::WidgetOf(const Control& control) const {
 void MainWindow::Show() {
   updates_.ShowChanges();
   if (updates_.TakeWindowChanged()) ShowWindow();
-  if (updates_.TakeFocusMoved()) ShowFocus();
+  // What lost the keyboard when it went out of reach has it again when it comes back.
+  const bool isBack = form_.Focus() != nullptr && desk_->hasFocus();
+  if (updates_.TakeFocusMoved() || isBack) ShowFocus();
   const TextSurface& text = form_.RichTextBox1;
   mark_->setText(MarkNameAt(text.Doc(), text.Selection()));
   if (copies_ != nullptr) copies_->Look();
