@@ -61,8 +61,12 @@ const QWidget& RandomHands::WidgetFor(const Control& control) const {
   return WidgetOf(window_, control);
 }
 
-// Mostly one in reach.
+// Mostly one in reach, and often a list: most of what can be done to it is to change nothing.
 const Control& RandomHands::SomeControl() {
+  const ListBox* const lists[] = {&form_.TagList, &form_.Parse_listbox};
+  if (const ListBox* const list = dice_.OneOf(lists); list->IsInReach() && dice_.Percent(15)) {
+    return *list;
+  }
   const bool anywhere = dice_.Percent(4);
   for (;;) {
     const Control& control = *dice_.OneOf(form_.Controls());
