@@ -216,6 +216,15 @@ TEST_F(Files, SaveTellsTheUserOfAFailure) {
   }
 }
 
+TEST_F(Files, ExitSavesAndEndsTheProgram) {
+  Open({u32string(U"x.tbf")});
+  dialogs.answers = {u32string(U"y.tbf")};
+  program.Click(form.mnuFileClose);
+  EXPECT_TRUE(disk.Has("y.tbf") && disk.Has("y.tlf"));
+  EXPECT_TRUE(form.Caption == U"Quillorandix v1.05 ----- saved files y.tbf + y.tlf");
+  EXPECT_TRUE(program.Ended());
+}
+
 TEST_F(Files, ExitEndsTheProgramAlsoWhereNothingCouldBeSaved) {
   Open({u32string(U"none.rtf")});  // fails, and yet its name is the one proposed
   disk.Refuse(DiskCall::kCreateIfMissing, "none.tlf");

@@ -98,6 +98,8 @@ TEST_F(Surface, TypesOverASelectionAsOneEdit) {
   EXPECT_EQ(Dump(text_.Doc()), "<c16711680 b>one two</> three");
   text_.Redo();
   EXPECT_EQ(Dump(text_.Doc()), "<c16711680 b>one or two</> three");
+  Load("another text");
+  EXPECT_FALSE(text_.CanUndo());
 }
 
 TEST_F(Surface, KeepsTheEndsOfCellsAndRows) {

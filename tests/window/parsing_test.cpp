@@ -70,20 +70,6 @@ class ParsingTest : public WindowTest {
   std::function<Pressed(QMessageBox&)> answer;  // looks at a box and chooses a button
 };
 
-TEST_F(ParsingTest, TheMarksOfTheWholeListAreShown) {
-  OpenStory(120);
-  Press("Parse_1");
-  EXPECT_EQ(form.Parse_listbox.ListIndex, 3);
-  EXPECT_EQ(At(0).colour, kFoundA);
-  EXPECT_EQ(At(5).colour, kFoundA) << "of \"not\", which comes after \"no\"";
-  ExpectShown(window, form);
-  ClickRow("Parse_listbox", 1);
-  Press("Parse_2");
-  EXPECT_EQ(At(6).colour, kMarkedB);
-  EXPECT_EQ(At(7).colour, kFoundA);
-  ExpectShown(window, form);
-}
-
 TEST_F(ParsingTest, EachHitIsInSightWhileTheQuestionIsAsked) {
   OpenStory(120);
   std::vector<Pressed> buttons{QMessageBox::Yes, QMessageBox::No};

@@ -18,51 +18,6 @@ TEST_F(WindowTest, ShowsTheStoredState) {
   EXPECT_EQ(Widget("A_type_add").geometry(), QRect(192, 16, 33, 25));
 }
 
-TEST_F(WindowTest, ShowsAnOpenedText) {
-  OpenText(kBody);
-  EXPECT_EQ(form.RichTextBox1.Text(), U"He came yesterday and left.\nNobody saw him again.\n");
-  ExpectShown(window, form);
-}
-
-TEST_F(WindowTest, FromAMarkToAStoredTag) {
-  OpenText(kBody);
-  DragOver(8, 17);
-  EXPECT_EQ(form.RichTextBox1.SelText(), U"yesterday");
-  Press("DefAMarker");
-  EXPECT_EQ(form.AMarkedString.Text.Get(), U"yesterday");
-  ExpectShown(window, form);
-
-  Press("AMarkSet");
-  EXPECT_TRUE(form.RichTextBox1.Doc().At(8).bold);
-  EXPECT_EQ(FocusName(), "RichTextBox1");
-  ExpectShown(window, form);
-
-  Choose("mnuPostProcess");
-  Press("FindAMarker");
-  EXPECT_EQ(form.marked_term.Text.Get(), U"yesterday");
-  ExpectShown(window, form);
-
-  PickRow("ClassCombo", 1);
-  PickRow("OperatorCombo", 1);
-  PickRow("ModeCombo", 1);
-  ExpectShown(window, form);
-  PickRow("TypeCombo", 2);
-  PickRow("GranCombo", 4);
-  Press("ValBox");
-  Key(Qt::Key_A, Qt::ControlModifier);
-  Keys("24");
-  Press("Generate_Tag");
-  ASSERT_EQ(form.TagList.ListCount(), 1);
-  EXPECT_NE(form.TagList.List(0).find(U"lexematic\\ a_operator\\ absolute \\ start\\ h \\ 24\\"),
-            std::u32string::npos);
-  EXPECT_GT(form.RichTextBox1.Doc().At(8).offset, 0);
-  ExpectShown(window, form);
-
-  ClickRow("TagList", 0);
-  EXPECT_EQ(form.TagList.ListIndex, 0);
-  ExpectShown(window, form);
-}
-
 TEST_F(WindowTest, PanelsCoverEachOther) {
   OpenText(kBody);
   // Both are shown when a text is opened in post-processing.
