@@ -148,7 +148,7 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
     const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
     const std::string answer = record_.Next([&]() -> std::string {
       if (dice_.Percent(10)) return "answer cancel";
-      if (!opens && dice_.Percent(10)) return "answer name " + source_;
+      if (!opens && !source_.empty() && dice_.Percent(10)) return "answer name " + source_;
       return "answer name " + LineHands::Encoded(user_.FileName(opens));
     });
     constexpr std::string_view kName = "answer name ";
@@ -157,10 +157,10 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
     }
     if (dialog.isVisible()) dialog.reject();
   }
-  // A text that was loaded from anything else than a working copy.
+  // What the text on show came from, if that is to stay as it is.
   void NoteSource() {
-    const fs::path shown(ToUtf8(form.RichTextBox1.FilePath()));
-    if (shown.extension() == ".rtf") source_ = shown.filename();
+    const fs::path source(ToUtf8(form.RichTextBox1.SourcePath()));
+    source_ = source.extension() == ".rtf" ? source.filename().string() : "";
   }
 
   // --- What must hold --------------------------------------------------------------------------
