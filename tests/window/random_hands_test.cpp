@@ -26,11 +26,13 @@
 #include "line_hands.h"
 #include "random_hands.h"
 #include "record.h"
+#include "rtf/writer.h"
 #include "shown_window.h"
 #include "support/walk_texts.h"
 #include "text/unicode.h"
 #include "window/application.h"
 #include "window/shown.h"
+#include "window/unsaved_copies.h"
 #include "window/window_dialogs.h"
 
 namespace quill::test {
@@ -80,11 +82,15 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
       window.findChild<QAction*>(QStringLiteral("mnuFileOpen"))->trigger();
     });
     answers_.AtOthers([this](QDialog& dialog) { Answer(dialog); });
+    using std::chrono_literals::operator""ms;
+    copies_.emplace(form, UserCopyFolder(), UnsavedCopies::Pace{10ms, 50ms});
+    window.Inform(&*copies_);
     window.show();
     window.activateWindow();
     QApplication::processEvents();
   }
   ~Walk() {
+    window.Inform(nullptr);
     QDir::setCurrent(QDir::tempPath());
     root_.setAutoRemove(!testing::Test::HasFailure());
   }
@@ -92,6 +98,15 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
   Walk& operator=(const Walk&) = delete;
 
   bool Ended() const { return program.Ended(); }
+  // A text with unsaved changes has its copy when it leaves.
+  void ExpectCopy() {
+    copies_->Take();
+    if (!form.RichTextBox1.HasUnsavedChanges()) return;
+    const std::string text = rtf::Write(form.RichTextBox1.Doc());
+    const Files copies = FilesIn(UserCopyFolder());
+    EXPECT_TRUE(std::any_of(copies.begin(), copies.end(),
+                            [&](const auto& copy) { return copy.second == text; }));
+  }
   std::string LastLines() const { return record_.LastLines(); }
 
   void Step() {
@@ -235,6 +250,7 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
   LineHands hands_{window};
   RandomHands user_{dice_, window, form};
   DialogHands answers_;
+  std::optional<UnsavedCopies> copies_;
   std::string source_;
 };
 
@@ -261,6 +277,7 @@ TEST(RandomHands, SeeWhatTheModelHolds) {
       } catch (const Record::Ended&) {
         done = actions;
       }
+      if (i % 50 == 49) walk.ExpectCopy();
       if (!HasFailure()) continue;
       qInstallMessageHandler(former);
       FAIL() << "seed " << seed << ", action " << i << "; " << walk.LastLines();

@@ -197,7 +197,7 @@ TEST_F(UnsavedTest, OpenedFromTheirCopyStayWhileTheyAreOnShow) {
   EXPECT_TRUE(fs::exists(path));
   MarkFirstWord();
   copies.reset();
-  EXPECT_EQ(ColourInCopy(folder), kMarked) << "the copy of the copy, and no other";
+  ASSERT_EQ(ColourInCopy(folder), kMarked) << "the copy of the copy, and no other";
   EXPECT_EQ(Copies()[0].find('('), 2U) << "named after the text";
 }
 
