@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QUrl>
 #include <QWheelEvent>
 #include <QtTest>
@@ -123,7 +124,8 @@ LineHands::Target LineHands::At(const QStringList& words, qsizetype control) con
   const QPoint place(words[control + 1].toInt(), words[control + 2].toInt());
   const QPoint inWindow = widget.mapTo(&window_, place);
   QWidget* const there = window_.childAt(inWindow);
-  if (there == nullptr) return {};
+  // The menu of the bar's own button, in a narrow window, lets nobody go on before it is closed.
+  if (there == nullptr || qobject_cast<QToolButton*>(there) != nullptr) return {};
   return {there, there->mapFrom(&window_, inWindow)};
 }
 
