@@ -16,7 +16,9 @@ void UseLargePages(const void* begin, std::size_t bytes) {
   const std::uintptr_t first = (address + kPage - 1) / kPage * kPage;
   const std::uintptr_t last = (address + bytes) / kPage * kPage;
   // It is advice: where it is refused, nothing is lost but time.
-  if (first < last) madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+  if (first >= last) return;
+  auto* const memory = static_cast<char*>(const_cast<void*>(begin));
+  madvise(memory + (first - address), last - first, MADV_HUGEPAGE);
 }
 #else
 void UseLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}

@@ -253,7 +253,8 @@ TEST_F(ToolkitTest, TheWaitingCursorShowsBeforeWorkBegins) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// An event of no device: where a failure passes through those, the toolkit loses some of its memory.
+// An event of no device: where a failure passes through those, the toolkit loses some of its
+// memory.
 TEST_F(ToolkitTest, NoFailureLeavesAnEvent) {
   struct Fails : QWidget {
     bool event(QEvent* event) override {
