@@ -13,7 +13,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QTimer>
+#include <QTimerEvent>
 #include <QUrl>
 #include <algorithm>
 #include <map>
@@ -279,9 +279,14 @@ void MainWindow::Drop(QDropEvent& event) {
   event.accept();
   if (event.type() != QEvent::Drop) return;
   // The program that the file came from waits for the end of this event.
-  QTimer::singleShot(0, this, [this, path] {
-    if (!actions_.Running() && openFile_) openFile_(path);
-  });
+  dropped_ = path;
+  opening_.start(0, this);
+}
+
+void MainWindow::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != opening_.timerId()) return QMainWindow::timerEvent(event);
+  opening_.stop();
+  if (!actions_.Running() && openFile_) openFile_(dropped_);
 }
 
 // --- Focus -----------------------------------------------------------------------------------

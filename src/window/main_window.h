@@ -2,6 +2,7 @@
 // nothing about the work.
 #pragma once
 
+#include <QBasicTimer>
 #include <QMainWindow>
 #include <functional>
 #include <memory>
@@ -36,6 +37,7 @@ class MainWindow final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
   // Sees the user's moves of the focus: a press of the mouse on a control, a Tab key. Keeps from
   // the widgets what is no work of theirs: the middle button and drops.
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -75,6 +77,8 @@ class MainWindow final : public QMainWindow {
   Actions actions_;
   Updates updates_;
   std::function<void(const QString&)> openFile_;
+  QString dropped_;  // the file that was dropped last
+  QBasicTimer opening_;
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
   QScrollArea* room_;                             // what the window has for the desk
   QWidget* desk_;
