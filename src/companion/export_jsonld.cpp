@@ -69,7 +69,7 @@ class Page {
     for (std::size_t i = 0; i < lists_.size(); ++i) {
       const References references(lists_[i]);
       for (const Tag& tag : lists_[i].tags) {
-        bytes += separator + Annotation(i, references, tag).dump();
+        bytes.append(separator).append(Annotation(i, references, tag).dump());
         separator = ",\n";
       }
     }

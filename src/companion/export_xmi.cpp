@@ -127,7 +127,8 @@ class Cas {
     node.append_attribute("sofa") = kSofa;
     node.append_attribute("begin") = positions_.Of(range.begin);
     node.append_attribute("end") = positions_.Of(range.end);
-    members_ += (members_.empty() ? "" : " ") + std::to_string(id);
+    if (!members_.empty()) members_ += ' ';
+    members_ += std::to_string(id);
     return node;
   }
 
