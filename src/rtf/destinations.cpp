@@ -184,8 +184,8 @@ void TextReader::CloseGroup() {
 }
 
 // A colour table can stand behind the words with which a file begins.
-void TextReader::EndHeader(const WordEntry* entry, const Token& token) {
-  if (headerEnded_ || states_.Depth() == 0) return;
+void TextReader::LookForHeadersEnd(const WordEntry* entry, const Token& token) {
+  if (states_.Depth() == 0) return;
   const Word word = entry != nullptr ? entry->word : Word::kUnknown;
   const bool header = word == Word::kHeader || word == Word::kCharacterSet ||
                       word == Word::kAnsiCodePage || word == Word::kDefaultFont ||

@@ -51,7 +51,10 @@ class TextReader {
   void EndField(Offset end);
   void TakeLineEndByte(const Token& token);
   bool IsOnlyLineEnds(Offset begin, Offset end) const;
-  void EndHeader(const WordEntry* entry, const Token& token);
+  void EndHeader(const WordEntry* entry, const Token& token) {
+    if (!headerEnded_) LookForHeadersEnd(entry, token);
+  }
+  void LookForHeadersEnd(const WordEntry* entry, const Token& token);
   void SetStandardPage(const CodePage& page);
   void AddCharacter(char32_t character, const Token& token, Origin::Kind kind = Origin::kPlain);
 

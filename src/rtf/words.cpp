@@ -221,7 +221,8 @@ class WordIndex {
 
   static std::size_t Hash(std::string_view name) {
     std::size_t hash = name.size();
-    for (const char c : name.substr(0, 12)) hash = hash * 31 + static_cast<unsigned char>(c);
+    const std::size_t length = std::min<std::size_t>(name.size(), 12);
+    for (std::size_t i = 0; i < length; ++i) hash = hash * 31 + static_cast<unsigned char>(name[i]);
     return (hash ^ hash >> 10U) % kPlaces;
   }
 
