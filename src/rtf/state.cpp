@@ -13,12 +13,6 @@ quill::Format FormatOf(const State& state) {
 
 StateStack::StateStack(FormatTable& formats, const State& first) : formats_(formats), now_(first) {}
 
-State& StateStack::Change() {
-  changed_ = true;
-  nowFormat_ = kNoFormat;
-  return now_;
-}
-
 FormatId StateStack::Format() {
   if (nowFormat_ == kNoFormat) {
     nowFormat_ = formats_.Add(FormatOf(now_));

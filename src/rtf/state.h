@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 #include <unordered_map>
 #include <vector>
 
@@ -30,8 +31,12 @@ class StateStack {
   StateStack(FormatTable& formats, const State& first);
 
   const State& Now() const { return now_; }
-  // For writing; only words that change the state may call it.
-  State& Change();
+  // Each stores what differs; most words say what holds anyway.
+  void Set(const State& next) { Store(now_, next); }
+  void Set(const Attributes& next) { Store(now_.attributes, next); }
+  void Set(const CharacterLook& next) { Store(now_.look, next); }
+  void Set(const ParagraphLook& next) { Store(now_.paragraph, next); }
+  void Set(const CodePage& next) { Store(now_.page, &next); }
   // The format of a character read now.
   FormatId Format();
 
@@ -50,6 +55,8 @@ class StateStack {
     std::size_t operator()(const State& state) const;
   };
 
+  template <class Part>
+  void Store(Part& now, const std::type_identity_t<Part>& next);
   StateId Intern();
 
   static constexpr FormatId kNoFormat = ~FormatId{0};
@@ -65,5 +72,13 @@ class StateStack {
   std::vector<Level> levels_;
   std::size_t depth_ = 0;
 };
+
+template <class Part>
+void StateStack::Store(Part& now, const std::type_identity_t<Part>& next) {
+  if (next == now) return;
+  now = next;
+  changed_ = true;
+  nowFormat_ = kNoFormat;
+}
 
 }  // namespace quill::rtf

@@ -11,19 +11,6 @@ constexpr std::int32_t kDefaultHalfPoints = 6;
 constexpr std::int32_t kDefaultFontSize = 24;
 constexpr std::int32_t kMostHalfPoints = 32767;
 
-// Writes one member of the state, where it differs. `member` takes a state and gives the member.
-template <class Member, class T>
-void Set(StateStack& states, Member member, T value) {
-  if (member(states.Now()) != value) member(states.Change()) = value;
-}
-
-AttributeChange SetAttributes(StateStack& states, const AttributeChange& change) {
-  Set(
-      states, [](auto& s) -> auto& { return s.attributes; },
-      Changed(states.Now().attributes, change));
-  return change;
-}
-
 bool IsOn(const Token& token) { return !token.hasNumber || token.number != 0; }
 
 Twips OffsetOf(const Token& token) {
@@ -37,147 +24,127 @@ T Clamped(std::int32_t number) {
                                                  std::numeric_limits<T>::max()));
 }
 
+std::int32_t BackgroundOf(const Token& token, const Tables& tables) {
+  if (token.number <= 0) return -1;
+  return static_cast<std::int32_t>(ColourOf(tables.colours, token.number));
+}
+
 // Each direction has a weight of its own: the one in force is the run's.
-void SetDirection(StateStack& states, bool rightToLeft) {
-  if (states.Now().look.rightToLeft == rightToLeft) return;
-  State& state = states.Change();
-  state.look.rightToLeft = rightToLeft;
-  std::swap(state.attributes.bold, state.otherBold);
+void SetDirection(bool rightToLeft, StateStack& states) {
+  State next = states.Now();
+  if (next.look.rightToLeft == rightToLeft) return;
+  next.look.rightToLeft = rightToLeft;
+  std::swap(next.attributes.bold, next.otherBold);
+  states.Set(next);
 }
 
 void SetPlain(const Tables& tables, StateStack& states) {
-  State& state = states.Change();
-  const std::uint16_t fallback = state.look.fallback;
-  state.attributes = {};
-  state.otherBold = false;
-  state.look = {};
-  state.look.fallback = fallback;
+  State next = states.Now();
+  next.attributes = {};
+  next.otherBold = false;
+  next.look = {};
+  next.look.fallback = states.Now().look.fallback;
+  states.Set(next);
   SelectFont(tables.defaultFont, tables, states);
 }
 
-bool ApplyAttribute(const WordEntry& entry, const Token& token, const Tables& tables,
-                    StateStack& states, AttributeChange& change) {
+AttributeChange AttributesOf(const WordEntry& entry, const Token& token, const Tables& tables,
+                             const State& state) {
   switch (entry.word) {
     case Word::kColour:
-      change = SetAttributes(states, {.colour = ColourOf(tables.colours, token.number)});
-      return true;
+      return {.colour = ColourOf(tables.colours, token.number)};
     case Word::kBold:
-      change = SetAttributes(states, {.bold = IsOn(token)});
-      return true;
+      return {.bold = IsOn(token)};
     case Word::kAssociatedBold:
       // The weight of right-to-left runs goes by this name.
-      if (states.Now().look.rightToLeft) change = SetAttributes(states, {.bold = IsOn(token)});
-      return true;
+      if (!state.look.rightToLeft) return {};
+      return {.bold = IsOn(token)};
     case Word::kUnderline:
-      change = SetAttributes(states, {.underline = IsOn(token)});
-      return true;
+      return {.underline = IsOn(token)};
     case Word::kNoUnderline:
-      change = SetAttributes(states, {.underline = false});
-      return true;
+      return {.underline = false};
     case Word::kUp:
-      change = SetAttributes(states, {.offset = OffsetOf(token)});
-      return true;
+      return {.offset = OffsetOf(token)};
     case Word::kDown:
-      change = SetAttributes(states, {.offset = -OffsetOf(token)});
-      return true;
+      return {.offset = -OffsetOf(token)};
     default:
-      return false;
+      return {};
   }
 }
 
-bool ApplyLook(const WordEntry& entry, const Token& token, const Tables& tables,
+void ApplyLook(const WordEntry& entry, const Token& token, const Tables& tables,
                StateStack& states) {
+  CharacterLook next = states.Now().look;
   switch (entry.word) {
     case Word::kPlain:
-      SetPlain(tables, states);
-      return true;
-    case Word::kItalic:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.italic; }, IsOn(token));
-      return true;
-    case Word::kStrike:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.struckOut; }, IsOn(token));
-      return true;
-    case Word::kHidden:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.hidden; }, IsOn(token));
-      return true;
-    case Word::kScript:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.script; },
-          IsOn(token) ? Clamped<std::int8_t>(entry.argument) : std::int8_t{0});
-      return true;
-    case Word::kBackground:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.background; },
-          token.number > 0 ? static_cast<std::int32_t>(ColourOf(tables.colours, token.number))
-                           : -1);
-      return true;
+      return SetPlain(tables, states);
     case Word::kFont:
-      SelectFont(token.number, tables, states);
-      return true;
-    case Word::kFontSize:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.halfPoints; },
-          Clamped<std::uint16_t>(std::max(1, token.hasNumber ? token.number : kDefaultFontSize)));
-      return true;
+      return SelectFont(token.number, tables, states);
     case Word::kDirection:
-      SetDirection(states, entry.argument != 0);
-      return true;
+      return SetDirection(entry.argument != 0, states);
+    case Word::kItalic:
+      next.italic = IsOn(token);
+      break;
+    case Word::kStrike:
+      next.struckOut = IsOn(token);
+      break;
+    case Word::kHidden:
+      next.hidden = IsOn(token);
+      break;
+    case Word::kScript:
+      next.script = IsOn(token) ? Clamped<std::int8_t>(entry.argument) : std::int8_t{0};
+      break;
+    case Word::kBackground:
+      next.background = BackgroundOf(token, tables);
+      break;
+    case Word::kFontSize:
+      next.halfPoints =
+          Clamped<std::uint16_t>(std::max(1, token.hasNumber ? token.number : kDefaultFontSize));
+      break;
     case Word::kFallback:
-      Set(
-          states, [](auto& s) -> auto& { return s.look.fallback; },
-          Clamped<std::uint16_t>(token.hasNumber ? token.number : 1));
-      return true;
+      next.fallback = Clamped<std::uint16_t>(token.hasNumber ? token.number : 1);
+      break;
     default:
-      return false;
+      break;
   }
+  states.Set(next);
 }
 
 void ApplyParagraph(const WordEntry& entry, const Token& token, StateStack& states) {
+  ParagraphLook next = states.Now().paragraph;
   const auto length = Clamped<std::int16_t>(token.number);
   switch (entry.word) {
     case Word::kParagraphDefaults:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph; }, ParagraphLook());
-      return;
+      next = {};
+      break;
     case Word::kAlignment:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.alignment; },
-          static_cast<Alignment>(entry.argument));
-      return;
+      next.alignment = static_cast<Alignment>(entry.argument);
+      break;
     case Word::kParagraphDirection:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.rightToLeft; }, entry.argument != 0);
-      return;
+      next.rightToLeft = entry.argument != 0;
+      break;
     case Word::kInTable:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.inTable; }, IsOn(token));
-      return;
+      next.inTable = IsOn(token);
+      break;
     case Word::kLeftIndent:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.left; }, length);
-      return;
+      next.left = length;
+      break;
     case Word::kRightIndent:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.right; }, length);
-      return;
+      next.right = length;
+      break;
     case Word::kFirstIndent:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.first; }, length);
-      return;
+      next.first = length;
+      break;
     case Word::kSpaceBefore:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.before; }, length);
-      return;
+      next.before = length;
+      break;
     case Word::kSpaceAfter:
-      Set(
-          states, [](auto& s) -> auto& { return s.paragraph.after; }, length);
-      return;
+      next.after = length;
+      break;
     default:
-      return;
+      break;
   }
+  states.Set(next);
 }
 
 }  // namespace
@@ -185,8 +152,12 @@ void ApplyParagraph(const WordEntry& entry, const Token& token, StateStack& stat
 AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const Tables& tables,
                                StateStack& states) {
   AttributeChange change;
-  if (!ApplyAttribute(entry, token, tables, states, change) &&
-      !ApplyLook(entry, token, tables, states)) {
+  if (entry.word >= Word::kColour && entry.word <= Word::kDown) {
+    change = AttributesOf(entry, token, tables, states.Now());
+    states.Set(Changed(states.Now().attributes, change));
+  } else if (entry.word >= Word::kPlain && entry.word <= Word::kFallback) {
+    ApplyLook(entry, token, tables, states);
+  } else if (entry.word >= Word::kParagraphDefaults && entry.word <= Word::kSpaceAfter) {
     ApplyParagraph(entry, token, states);
   }
   return change;
@@ -194,12 +165,10 @@ AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const
 
 void SelectFont(std::int32_t number, const Tables& tables, StateStack& states) {
   const Font* const font = tables.fonts.Find(number);
-  Set(
-      states, [](auto& s) -> auto& { return s.look.font; },
-      font != nullptr ? font->face : std::uint16_t{0});
-  Set(
-      states, [](auto& s) -> auto& { return s.page; },
-      font != nullptr ? font->page : tables.standardPage);
+  CharacterLook next = states.Now().look;
+  next.font = font != nullptr ? font->face : std::uint16_t{0};
+  states.Set(next);
+  states.Set(font != nullptr ? *font->page : *tables.standardPage);
 }
 
 }  // namespace quill::rtf

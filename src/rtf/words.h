@@ -27,9 +27,7 @@ enum class Word : std::uint8_t {
   kObject,        // stands for one character
   kPictureForm,   // one of two forms of the same picture
   kAlternatives,  // \upr: the first group gives way to the second
-  // State.
-  kPlain,
-  kParagraphDefaults,
+  // The four attributes.
   kColour,
   kOtherColour,  // names an entry of the colour table for something else than the characters
   kBold,
@@ -38,6 +36,8 @@ enum class Word : std::uint8_t {
   kNoUnderline,
   kUp,
   kDown,
+  // The rest of the characters' look.
+  kPlain,
   kItalic,
   kStrike,
   kHidden,
@@ -47,6 +47,8 @@ enum class Word : std::uint8_t {
   kFontSize,
   kDirection,  // of the run; argument: 1 right to left
   kFallback,   // \uc
+  // The paragraph's look.
+  kParagraphDefaults,
   kAlignment,  // argument: an Alignment
   kParagraphDirection,
   kInTable,
