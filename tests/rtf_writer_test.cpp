@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "rtf/reader.h"
-#include "rtf/rewriting.h"
 #include "rtf/writer.h"
+#include "rtf/writing/rewriting.h"
 #include "support/rich_text.h"
 #include "text/unicode.h"
 

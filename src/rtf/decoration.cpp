@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
-#include "rtf/lexer.h"
 #include "rtf/reader.h"
+#include "rtf/syntax/lexer.h"
 
 namespace quill::rtf {
 namespace {

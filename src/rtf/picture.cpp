@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "rtf/ascii.h"
-#include "rtf/lexer.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/lexer.h"
 
 namespace quill::rtf {
 namespace {

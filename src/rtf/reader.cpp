@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "rtf/plain_text.h"
-#include "rtf/text_reader.h"
+#include "rtf/reading/text_reader.h"
+#include "rtf/writing/plain_text.h"
 
 namespace quill::rtf {
 namespace {

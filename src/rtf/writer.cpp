@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
-#include "rtf/encode.h"
-#include "rtf/patching.h"
 #include "rtf/reader.h"
-#include "rtf/rewriting.h"
+#include "rtf/writing/encode.h"
+#include "rtf/writing/patching.h"
+#include "rtf/writing/rewriting.h"
 
 namespace quill::rtf {
 namespace {

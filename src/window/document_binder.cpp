@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "rtf/symbol_field.h"
+#include "rtf/symbol_font.h"
 #include "text/unicode.h"
 #include "window/appearance.h"
 #include "window/page/page_layout.h"

@@ -1,4 +1,4 @@
-#include "rtf/encode.h"
+#include "rtf/writing/encode.h"
 
 #include <cmath>
 #include <cstdlib>

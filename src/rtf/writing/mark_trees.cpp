@@ -1,4 +1,4 @@
-#include "rtf/mark_trees.h"
+#include "rtf/writing/mark_trees.h"
 
 namespace quill::rtf {
 

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
-#include "rtf/symbol_field.h"
-#include "rtf/text_reader.h"
-#include "rtf/words.h"
+#include "rtf/reading/text_reader.h"
+#include "rtf/syntax/symbol_field.h"
+#include "rtf/syntax/words.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

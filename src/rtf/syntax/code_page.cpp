@@ -1,4 +1,4 @@
-#include "rtf/code_page.h"
+#include "rtf/syntax/code_page.h"
 
 #include <unicode/ucnv.h>
 

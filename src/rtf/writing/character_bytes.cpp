@@ -1,10 +1,10 @@
-#include "rtf/character_bytes.h"
+#include "rtf/writing/character_bytes.h"
 
 #include <algorithm>
 #include <cstdint>
 
-#include "rtf/ascii.h"
-#include "rtf/lexer.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/lexer.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "rtf/code_page.h"
+#include "rtf/syntax/code_page.h"
 #include "text/format.h"
 
 namespace quill::rtf {

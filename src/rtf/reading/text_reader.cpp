@@ -1,10 +1,10 @@
 // Tokens to characters and formatting. What groups hold instead of text is in destinations.cpp.
-#include "rtf/text_reader.h"
+#include "rtf/reading/text_reader.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "rtf/words.h"
+#include "rtf/syntax/words.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string>
 
-#include "rtf/lexer.h"
-#include "rtf/mark_groups.h"
-#include "rtf/state_words.h"
-#include "rtf/text_builder.h"
+#include "rtf/reading/mark_groups.h"
+#include "rtf/reading/state_words.h"
+#include "rtf/reading/text_builder.h"
+#include "rtf/syntax/lexer.h"
 #include "text/document.h"
 
 namespace quill::rtf {

@@ -1,4 +1,4 @@
-#include "rtf/colour_numbers.h"
+#include "rtf/writing/colour_numbers.h"
 
 #include <algorithm>
 

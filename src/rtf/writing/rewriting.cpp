@@ -1,16 +1,16 @@
 // Every stretch of characters that look the same stands in a group that says all of its look, so
 // that no group depends on another.
-#include "rtf/rewriting.h"
+#include "rtf/writing/rewriting.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
 
-#include "rtf/ascii.h"
-#include "rtf/colour_numbers.h"
-#include "rtf/encode.h"
-#include "rtf/lexer.h"
-#include "rtf/tables.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/lexer.h"
+#include "rtf/syntax/words.h"
+#include "rtf/writing/colour_numbers.h"
+#include "rtf/writing/encode.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -1,10 +1,10 @@
-#include "rtf/lexer.h"
+#include "rtf/syntax/lexer.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
 
-#include "rtf/ascii.h"
+#include "rtf/syntax/ascii.h"
 
 namespace quill::rtf {
 namespace {

@@ -1,4 +1,4 @@
-#include "rtf/text_builder.h"
+#include "rtf/reading/text_builder.h"
 
 #include <algorithm>
 

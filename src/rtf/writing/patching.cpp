@@ -4,18 +4,18 @@
 // this way are taken apart again where their characters changed, and stay only where they still
 // save words: so a file does not grow by marking and unmarking. They are told by their words: any
 // other group is its author's, and stays.
-#include "rtf/patching.h"
+#include "rtf/writing/patching.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
 
-#include "rtf/character_bytes.h"
-#include "rtf/colour_numbers.h"
-#include "rtf/encode.h"
-#include "rtf/mark_trees.h"
-#include "rtf/patched_copy.h"
+#include "rtf/writing/character_bytes.h"
+#include "rtf/writing/colour_numbers.h"
+#include "rtf/writing/encode.h"
+#include "rtf/writing/mark_trees.h"
+#include "rtf/writing/patched_copy.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -71,6 +71,10 @@ struct WordEntry {
   std::int32_t argument = 0;
 };
 
+// Colour words of a file with higher numbers than this are not counted with the table: no program
+// writes them, and a table that reached them would outgrow the file.
+inline constexpr std::int32_t kHighestColour = 32767;
+
 // The entry of a word; that of an unknown word is kUnknown. Case counts.
 const WordEntry& LookUp(std::string_view name);
 

@@ -9,15 +9,11 @@
 #include <utility>
 #include <vector>
 
-#include "rtf/code_page.h"
-#include "rtf/lexer.h"
+#include "rtf/syntax/code_page.h"
+#include "rtf/syntax/lexer.h"
 #include "text/document.h"
 
 namespace quill::rtf {
-
-// Colour words of a file with higher numbers than this are not counted with the table: no program
-// writes them, and a table that reached them would outgrow the file.
-inline constexpr std::int32_t kHighestColour = 32767;
 
 struct Font {
   std::uint16_t face = 0;  // index into the document's fonts

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "rtf/state.h"
+#include "rtf/reading/state.h"
 #include "text/format_numbers.h"
 #include "text/origin_list.h"
 #include "text/source.h"

@@ -1,4 +1,4 @@
-#include "rtf/state.h"
+#include "rtf/reading/state.h"
 
 #include <functional>
 

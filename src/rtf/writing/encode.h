@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "rtf/colour_numbers.h"
+#include "rtf/writing/colour_numbers.h"
 #include "text/format.h"
 
 namespace quill::rtf {

@@ -1,11 +1,11 @@
-#include "rtf/symbol_field.h"
+#include "rtf/syntax/symbol_field.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
 
-#include "rtf/ascii.h"
-#include "rtf/lexer.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/lexer.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -127,14 +127,6 @@ char32_t CharacterOf(const SymbolField& field, const CodePage& ansi, bool symbol
   const bool half = character >= 0xD800 && character <= 0xDFFF;
   const bool none = control || half || character > 0x10FFFF || character == kReplacement;
   return none ? 0 : character;
-}
-
-std::string FontOfSymbol(std::string_view group) {
-  constexpr std::string_view kInstruction = "\\fldinst";
-  const std::size_t at = group.find(kInstruction);
-  if (at == std::string_view::npos) return "";
-  const std::optional<SymbolField> field = ReadSymbolField(group.substr(at + kInstruction.size()));
-  return field ? field->font : "";
 }
 
 }  // namespace quill::rtf

@@ -1,4 +1,4 @@
-#include "rtf/state_words.h"
+#include "rtf/reading/state_words.h"
 
 #include <algorithm>
 #include <limits>

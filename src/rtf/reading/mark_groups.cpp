@@ -1,4 +1,4 @@
-#include "rtf/mark_groups.h"
+#include "rtf/reading/mark_groups.h"
 
 #include <algorithm>
 #include <utility>

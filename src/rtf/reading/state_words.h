@@ -1,9 +1,9 @@
 // Control words that change the formatting in force.
 #pragma once
 
-#include "rtf/state.h"
-#include "rtf/tables.h"
-#include "rtf/words.h"
+#include "rtf/reading/state.h"
+#include "rtf/reading/tables.h"
+#include "rtf/syntax/words.h"
 
 namespace quill::rtf {
 

@@ -1,4 +1,4 @@
-#include "rtf/words.h"
+#include "rtf/syntax/words.h"
 
 #include <algorithm>
 #include <cstddef>

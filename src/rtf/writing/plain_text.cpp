@@ -1,8 +1,8 @@
-#include "rtf/plain_text.h"
+#include "rtf/writing/plain_text.h"
 
 #include <algorithm>
 
-#include "rtf/encode.h"
+#include "rtf/writing/encode.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "rtf/code_page.h"
+#include "rtf/syntax/code_page.h"
 
 namespace quill::rtf {
 
@@ -25,8 +25,5 @@ std::optional<SymbolField> ReadSymbolField(std::string_view content);
 // The character that is meant: `ansi` has those that neither the field nor a font of symbols
 // numbers in its own way. 0 where the number is no character's.
 char32_t CharacterOf(const SymbolField& field, const CodePage& ansi, bool symbolFont);
-
-// The typeface that a field names whose group these bytes are; empty for anything else.
-std::string FontOfSymbol(std::string_view group);
 
 }  // namespace quill::rtf

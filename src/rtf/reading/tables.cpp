@@ -1,12 +1,12 @@
-#include "rtf/tables.h"
+#include "rtf/reading/tables.h"
 
 #include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
 
-#include "rtf/ascii.h"
-#include "rtf/words.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/words.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {

@@ -1,10 +1,10 @@
-#include "rtf/patched_copy.h"
+#include "rtf/writing/patched_copy.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "rtf/ascii.h"
-#include "rtf/lexer.h"
+#include "rtf/syntax/ascii.h"
+#include "rtf/syntax/lexer.h"
 #include "text/large_pages.h"
 
 namespace quill::rtf {
