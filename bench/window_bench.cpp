@@ -6,8 +6,8 @@
 #include <chrono>
 #include <ctime>
 
-#include "window/appearance.h"
 #include "window/application.h"
+#include "window/shared/appearance.h"
 
 namespace quill::bench {
 

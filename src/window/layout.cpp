@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "window/appearance.h"
+#include "window/shared/appearance.h"
 
 namespace quill {
 namespace {

@@ -13,11 +13,11 @@
 
 #include "disk/posix_disk.h"
 #include "program/program.h"
-#include "window/abrupt_end.h"
-#include "window/appearance.h"
 #include "window/application.h"
+#include "window/copies/abrupt_end.h"
+#include "window/copies/unsaved_copies.h"
 #include "window/main_window.h"
-#include "window/unsaved_copies.h"
+#include "window/shared/appearance.h"
 #include "window/window_dialogs.h"
 
 namespace {

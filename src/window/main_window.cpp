@@ -19,14 +19,14 @@
 #include <map>
 
 #include "text/marks.h"
-#include "window/appearance.h"
 #include "window/application.h"
+#include "window/controls/menus.h"
+#include "window/controls/names.h"
+#include "window/copies/unsaved_copies.h"
 #include "window/layout.h"
-#include "window/mark_names.h"
-#include "window/menus.h"
-#include "window/names.h"
-#include "window/shown.h"
-#include "window/unsaved_copies.h"
+#include "window/shared/appearance.h"
+#include "window/shared/shown.h"
+#include "window/text/mark_names.h"
 
 namespace quill {
 namespace {

@@ -8,8 +8,8 @@
 #include <memory>
 #include <vector>
 
-#include "window/actions.h"
-#include "window/binder.h"
+#include "window/shared/actions.h"
+#include "window/shared/binder.h"
 #include "window/updates.h"
 
 class QDropEvent;

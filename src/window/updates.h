@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "window/document_binder.h"
+#include "window/text/document_binder.h"
 #include "workbench/form1.h"
 
 namespace quill {

@@ -22,8 +22,8 @@
 #include "disk/text_family.h"
 #include "text/unicode.h"
 #include "window/application.h"
-#include "window/shown.h"
-#include "window/waiting_cursor.h"
+#include "window/shared/shown.h"
+#include "window/shared/waiting_cursor.h"
 
 namespace quill {
 namespace {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <map>
 
-#include "window/shown.h"
+#include "window/shared/shown.h"
 #include "window/user.h"
 
 namespace quill::test {

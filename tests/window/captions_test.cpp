@@ -6,8 +6,8 @@
 #include <QTextBlock>
 #include <array>
 
-#include "window/appearance.h"
-#include "window/shown.h"
+#include "window/shared/appearance.h"
+#include "window/shared/shown.h"
 #include "window/user.h"
 
 namespace quill::test {

@@ -6,7 +6,7 @@
 
 #include "shown_window.h"
 #include "user.h"
-#include "window/shown.h"
+#include "window/shared/shown.h"
 
 namespace quill::test {
 namespace {

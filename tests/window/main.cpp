@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "window/appearance.h"
 #include "window/application.h"
+#include "window/shared/appearance.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

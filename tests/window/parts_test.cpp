@@ -3,9 +3,9 @@
 
 #include <random>
 
-#include "window/position_map.h"
-#include "window/shown.h"
-#include "window/text_changes.h"
+#include "window/shared/shown.h"
+#include "window/text/position_map.h"
+#include "window/text/text_changes.h"
 #include "window/window_dialogs.h"
 
 namespace quill {

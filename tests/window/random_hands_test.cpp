@@ -31,8 +31,8 @@
 #include "support/walk_texts.h"
 #include "text/unicode.h"
 #include "window/application.h"
-#include "window/shown.h"
-#include "window/unsaved_copies.h"
+#include "window/copies/unsaved_copies.h"
+#include "window/shared/shown.h"
 #include "window/window_dialogs.h"
 
 namespace quill::test {

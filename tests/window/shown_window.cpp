@@ -18,8 +18,8 @@
 #include <sstream>
 
 #include "text/unicode.h"
-#include "window/appearance.h"
-#include "window/shown.h"
+#include "window/shared/appearance.h"
+#include "window/shared/shown.h"
 
 namespace quill::test {
 namespace {

@@ -9,7 +9,7 @@
 #include "shown_window.h"
 #include "text/marks.h"
 #include "user.h"
-#include "window/shown.h"
+#include "window/shared/shown.h"
 
 namespace quill::test {
 namespace {

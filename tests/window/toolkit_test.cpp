@@ -14,7 +14,7 @@
 
 #include "shown_window.h"
 #include "user.h"
-#include "window/shown.h"
+#include "window/shared/shown.h"
 #include "workbench/failure.h"
 
 namespace quill::test {

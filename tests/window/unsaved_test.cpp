@@ -13,7 +13,7 @@
 #include "rtf/reader.h"
 #include "text/unicode.h"
 #include "user.h"
-#include "window/unsaved_copies.h"
+#include "window/copies/unsaved_copies.h"
 
 namespace quill::test {
 namespace {

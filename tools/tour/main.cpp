@@ -7,9 +7,9 @@
 #include <stdexcept>
 
 #include "tour/tour.h"
-#include "window/appearance.h"
 #include "window/application.h"
-#include "window/shown.h"
+#include "window/shared/appearance.h"
+#include "window/shared/shown.h"
 
 namespace {
 

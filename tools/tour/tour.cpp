@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "text/marks.h"
-#include "window/shown.h"
+#include "window/shared/shown.h"
 #include "workbench/form1.h"
 
 namespace quill::tour {

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "window/zoom.h"
+#include "window/page/zoom.h"
 
 namespace quill {
 namespace {

@@ -1,0 +1,313 @@
+#include "window/text/document_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QPointer>
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+
+#include "window/page/page_layout.h"
+#include "window/shared/edit_widgets.h"
+#include "window/shared/shown.h"
+#include "workbench/form1.h"
+
+namespace quill {
+namespace {
+
+constexpr QKeySequence::StandardKey kMovements[] = {
+    QKeySequence::MoveToNextChar,        QKeySequence::MoveToPreviousChar,
+    QKeySequence::MoveToNextWord,        QKeySequence::MoveToPreviousWord,
+    QKeySequence::MoveToNextLine,        QKeySequence::MoveToPreviousLine,
+    QKeySequence::MoveToNextPage,        QKeySequence::MoveToPreviousPage,
+    QKeySequence::MoveToStartOfLine,     QKeySequence::MoveToEndOfLine,
+    QKeySequence::MoveToStartOfBlock,    QKeySequence::MoveToEndOfBlock,
+    QKeySequence::MoveToStartOfDocument, QKeySequence::MoveToEndOfDocument,
+    QKeySequence::SelectNextChar,        QKeySequence::SelectPreviousChar,
+    QKeySequence::SelectNextWord,        QKeySequence::SelectPreviousWord,
+    QKeySequence::SelectNextLine,        QKeySequence::SelectPreviousLine,
+    QKeySequence::SelectNextPage,        QKeySequence::SelectPreviousPage,
+    QKeySequence::SelectStartOfLine,     QKeySequence::SelectEndOfLine,
+    QKeySequence::SelectStartOfBlock,    QKeySequence::SelectEndOfBlock,
+    QKeySequence::SelectStartOfDocument, QKeySequence::SelectEndOfDocument,
+};
+
+// Whether a key stands for its text, and not for a command.
+bool IsTyping(const QKeyEvent& event) {
+  const QString text = event.text();
+  if (text.isEmpty()) return false;
+  const QChar first = text[0];
+  if (first.category() == QChar::Other_Format) return true;
+  const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::ControlModifier || modifiers.testFlag(Qt::MetaModifier) ||
+      modifiers == (Qt::ControlModifier | Qt::ShiftModifier) || modifiers == Qt::AltModifier) {
+    return false;
+  }
+  return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_PrivateUse;
+}
+
+}  // namespace
+
+DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
+    : QTextEdit(&parent),
+      text_(text),
+      actions_(actions),
+      pictures_(text.Doc(), positions_),
+      decoration_(text.Doc(), positions_) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  viewport()->setCursor(Qt::IBeamCursor);
+  setTabChangesFocus(true);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
+  // The first one belongs to the toolkit, which deletes it by itself.
+  const QPointer<QTextDocument> old = this->document();
+  document->setParent(this);
+  PageLayout& page = PageLayout::Of(*document);
+  pictures_.Serve(*document);
+  decoration_.Clear();
+  zoom_.ApplyTo(page);
+  page.MeasureLetters();
+  place_.Stop();
+  setDocument(document.release());
+  place_.Start(page);
+  preeditCaret_ = -1;
+  delete old.data();
+}
+
+QTextCursor DocumentView::CursorAt(Range range) const {
+  QTextCursor cursor(document());
+  cursor.setPosition(positions_.ToWidget(range.begin));
+  cursor.setPosition(positions_.ToWidget(range.end), QTextCursor::KeepAnchor);
+  return cursor;
+}
+
+QRect DocumentView::PlaceOf(Range range) const {
+  // Both are laid out before either is looked for: what lies above the other moves it.
+  const QTextCursor begin = CursorAt({range.begin, range.begin});
+  const QTextCursor end = CursorAt({range.end, range.end});
+  const QRect first = cursorRect(begin);
+  const QRect last = cursorRect(end);
+  const QRect both = first.united(last);
+  if (last.top() <= first.top()) return both;
+  // Over several lines: all their width, and no more of them than a reader needs to begin.
+  const int height = std::min(both.height(), viewport()->height() / 2);
+  return {0, both.top(), viewport()->width(), height};
+}
+
+std::vector<DocumentView::Band> DocumentView::FreeBands(const QRect& place) const {
+  std::vector<Band> bands{{0, viewport()->height()}};
+  for (const QRect& cover : Covers()) {
+    if (cover.left() > place.right() || cover.right() < place.left()) continue;
+    std::vector<Band> left;
+    for (const Band& band : bands) {
+      left.push_back({band.top, std::min(band.bottom, cover.top())});
+      left.push_back({std::max(band.top, cover.bottom() + 1), band.bottom});
+    }
+    bands = std::move(left);
+  }
+  bands.erase(std::remove_if(bands.begin(), bands.end(),
+                             [&](const Band& band) { return band.Height() < place.height(); }),
+              bands.end());
+  std::sort(bands.begin(), bands.end(),
+            [](const Band& a, const Band& b) { return a.Height() > b.Height(); });
+  return bands;
+}
+
+std::vector<QRect> DocumentView::Covers() const {
+  std::vector<QRect> covers;
+  const QObjectList& stack = parent()->children();
+  for (qsizetype i = stack.indexOf(const_cast<DocumentView*>(this)) + 1; i < stack.size(); ++i) {
+    const auto* const widget = qobject_cast<QWidget*>(stack[i]);
+    if (widget == nullptr || widget->isWindow() || !widget->isVisible()) continue;
+    const QRect cover =
+        widget->rect().translated(viewport()->mapFromGlobal(widget->mapToGlobal(QPoint(0, 0))));
+    if (cover.intersects(viewport()->rect())) covers.push_back(cover);
+  }
+  return covers;
+}
+
+void DocumentView::Reveal(Range range) {
+  const QRect place = PlaceOf(range);
+  const std::vector<Band> bands = FreeBands(place);
+  QScrollBar& bar = *verticalScrollBar();
+  const int around = 3 * cursorRect(CursorAt({range.begin, range.begin})).height();
+  const auto holds = [&](const Band& band) {
+    const int margin = std::min(around, (band.Height() - place.height()) / 3);
+    const bool atTheStart = bar.value() == 0 && band.top == 0;
+    return place.top() >= band.top + (atTheStart ? 0 : margin) &&
+           place.bottom() < band.bottom - margin;
+  };
+  if (std::any_of(bands.begin(), bands.end(), holds)) return;
+  for (const Band& band : bands) {
+    const int room = band.Height() - place.height();
+    const int value = bar.value() + place.top() - band.top - room / 3;
+    if (value < 0 && bands.size() > 1 && band.top > 0) continue;
+    // The end of the text may have to leave the bottom, to come out from under a panel.
+    if (bands.size() > 1) PageLayout::Of(*document()).ReachTo(value + viewport()->height());
+    bar.setValue(value);
+    return;
+  }
+}
+
+// --- The caret -------------------------------------------------------------------------------
+
+bool DocumentView::IsInUse() const { return hasFocus() || text_.Form().Focus() == &text_; }
+
+void DocumentView::ShowSelection() {
+  const QTextCursor wanted = CursorAt(text_.Selection());
+  const QTextCursor shown = textCursor();
+  // A selection that the user just made stays as it is, with its direction.
+  if (shown.selectionStart() != wanted.selectionStart() ||
+      shown.selectionEnd() != wanted.selectionEnd()) {
+    KeepPlace([&] { setTextCursor(wanted); });
+  }
+  viewport()->update();
+}
+
+// --- Selecting -------------------------------------------------------------------------------
+
+void DocumentView::ReportSelection() {
+  const QTextCursor cursor = textCursor();
+  const Position begin = positions_.ToModel(cursor.selectionStart());
+  const Position end = positions_.ToModel(cursor.selectionEnd());
+  actions_.Do([&](Program& program) { program.Select(begin, end - begin); });
+  RestartCaret();
+}
+
+void DocumentView::SelectEverything() {
+  selectAll();
+  ReportSelection();
+}
+
+void DocumentView::mouseReleaseEvent(QMouseEvent* event) {
+  QTextEdit::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) ReportSelection();
+}
+
+// --- Editing ---------------------------------------------------------------------------------
+
+void DocumentView::keyPressEvent(QKeyEvent* event) {
+  if (IsMovement(event)) {
+    QTextEdit::keyPressEvent(event);
+    ReportSelection();
+  } else if (EditKey(event) || ZoomKey(*event)) {
+    event->accept();
+  } else if (IsTyping(*event)) {
+    Type(event->text());
+  } else {
+    event->ignore();
+  }
+}
+
+bool DocumentView::IsMovement(QKeyEvent* event) const {
+  return std::any_of(std::begin(kMovements), std::end(kMovements),
+                     [&](QKeySequence::StandardKey key) { return event->matches(key); });
+}
+
+bool DocumentView::EditKey(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->matches(QKeySequence::Undo)) {
+    Undo();
+  } else if (event->matches(QKeySequence::Redo)) {
+    Redo();
+  } else if (event->matches(QKeySequence::Cut)) {
+    Cut();
+  } else if (event->matches(QKeySequence::Copy)) {
+    copy();
+  } else if (event->matches(QKeySequence::Paste)) {
+    Paste();
+  } else if (event->matches(QKeySequence::SelectAll)) {
+    SelectEverything();
+  } else if (event->matches(QKeySequence::Delete)) {
+    Delete(QTextCursor::NextCharacter);
+  } else if (event->matches(QKeySequence::DeleteEndOfWord)) {
+    Delete(QTextCursor::NextWord);
+  } else if (event->matches(QKeySequence::DeleteStartOfWord)) {
+    Delete(QTextCursor::PreviousWord);
+  } else if (event->key() == Qt::Key_Backspace &&
+             (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier) {
+    Delete(QTextCursor::PreviousCharacter);
+  } else if (enter && event->modifiers() == Qt::ShiftModifier) {
+    Type(QString(QChar::LineSeparator));
+  } else if (enter) {
+    Type(QStringLiteral("\n"));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void DocumentView::Type(const QString& text) {
+  if (text.isEmpty()) return;
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.TypeInText(FromQt(text));
+  });
+  RestartCaret();
+}
+
+void DocumentView::Delete(QTextCursor::MoveOperation operation) {
+  Range range = text_.Selection();
+  if (range.Length() == 0) {
+    // By what a reader sees as one character: a letter goes with its accents.
+    QTextCursor cursor = CursorAt(range);
+    cursor.movePosition(operation, QTextCursor::KeepAnchor);
+    range = {positions_.ToModel(cursor.selectionStart()),
+             positions_.ToModel(cursor.selectionEnd())};
+  }
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.DeleteInText(range);
+  });
+  RestartCaret();
+}
+
+void DocumentView::DeleteSelection() {
+  if (text_.Selection().Length() > 0) Delete(QTextCursor::NextCharacter);
+}
+
+void DocumentView::Undo() {
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.UndoInText();
+  });
+}
+
+void DocumentView::Redo() {
+  actions_.Do([&](Program& program) {
+    program.GoInto(text_);
+    program.RedoInText();
+  });
+}
+
+void DocumentView::Cut() {
+  copy();
+  DeleteSelection();
+}
+
+void DocumentView::Paste() {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  if (data != nullptr) insertFromMimeData(data);
+}
+
+QMimeData* DocumentView::createMimeDataFromSelection() const {
+  const QTextCursor cursor = textCursor();
+  const Range range{positions_.ToModel(cursor.selectionStart()),
+                    positions_.ToModel(cursor.selectionEnd())};
+  auto* const data = new QMimeData;
+  data->setText(ToQt(text_.Doc().Text(range)));
+  return data;
+}
+
+bool DocumentView::canInsertFromMimeData(const QMimeData* source) const {
+  return HasPlainText(*source);
+}
+
+void DocumentView::insertFromMimeData(const QMimeData* source) { Type(PlainText(*source)); }
+
+}  // namespace quill

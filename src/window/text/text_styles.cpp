@@ -1,0 +1,151 @@
+#include "window/text/text_styles.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QHash>
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+
+#include "window/shared/appearance.h"
+#include "window/text/paragraph_decoration.h"
+#include "window/text/text_pictures.h"
+
+namespace quill {
+namespace {
+
+// What a file may ask for; more than that makes lines that nobody can read.
+constexpr int kLeastHalfPoints = 4;
+constexpr int kMostHalfPoints = 400;
+constexpr int kMostTwips = 7200;
+
+double PixelsOf(std::int16_t twips) {
+  return std::clamp<int>(twips, -kMostTwips, kMostTwips) / 15.0;
+}
+
+int ShownHalfPoints(const CharacterLook& look) {
+  return std::clamp<int>(look.halfPoints, kLeastHalfPoints, kMostHalfPoints);
+}
+
+// Itself, or what the desktop's font settings put in its place. In a list of families the toolkit
+// would pass over one that is not installed. To ask takes long, and many formats share a typeface.
+QString Installed(const QString& family) {
+  static QHash<QString, QString> known;
+  QString& installed = known[family];
+  if (installed.isEmpty()) {
+    installed = QFontDatabase::hasFamily(family) ? family : QFontInfo(QFont(family)).family();
+  }
+  return installed;
+}
+
+// The families for what the text's own lacks. The toolkit takes characters that many scripts share,
+// such as the ideographic full stop, from any font that has them: from one for Mongolian, say,
+// between Chinese words. A Chinese family has those as they are meant.
+QStringList StandIns() {
+  QStringList families{Installed(QFontDatabase::systemFont(QFontDatabase::GeneralFont).family())};
+  const QStringList chinese = QFontDatabase::families(QFontDatabase::SimplifiedChinese);
+  if (!chinese.isEmpty()) families += chinese.front();
+  return families;
+}
+
+void SetFont(QTextCharFormat& style, const CharacterLook& look,
+             const std::vector<FontFace>& fonts) {
+  static const QStringList standIns = StandIns();
+  QStringList families;
+  if (look.font < fonts.size() && !fonts[look.font].name.empty()) {
+    families += Installed(QString::fromStdString(fonts[look.font].name));
+  }
+  families += standIns;
+  style.setFontFamilies(families);
+  style.setFontPointSize(ShownHalfPoints(look) / 2.0);
+}
+
+QTextCharFormat CharacterStyle(const Format& format, const std::vector<FontFace>& fonts) {
+  const CharacterLook& look = format.look;
+  QTextCharFormat style;
+  style.setObjectType(TextPictures::kObjectType);
+  SetFont(style, look, fonts);
+  style.setForeground(ToQColor(format.now.colour));
+  style.setFontWeight(format.now.bold ? QFont::Bold : QFont::Normal);
+  style.setFontUnderline(format.now.underline);
+  style.setFontItalic(look.italic);
+  style.setFontStrikeOut(look.struckOut);
+  if (look.background >= 0) style.setBackground(ToQColor(static_cast<Colour>(look.background)));
+  if (look.script != 0) {
+    style.setVerticalAlignment(look.script > 0 ? QTextCharFormat::AlignSuperScript
+                                               : QTextCharFormat::AlignSubScript);
+  }
+  if (format.now.offset != 0) {
+    style.setBaselineOffset(RaisedPercent(format.now.offset, ShownHalfPoints(look)));
+  }
+  return style;
+}
+
+Qt::Alignment AlignmentOf(const ParagraphLook& look) {
+  switch (look.alignment) {
+    case Alignment::kCentre:
+      return Qt::AlignHCenter;
+    case Alignment::kRight:
+      return Qt::AlignRight | Qt::AlignAbsolute;
+    case Alignment::kJustified:
+      return Qt::AlignJustify;
+    default:
+      return Qt::AlignLeft;  // where the paragraph begins
+  }
+}
+
+QTextBlockFormat ParagraphStyle(const ParagraphLook& look) {
+  QTextBlockFormat style;
+  style.setAlignment(AlignmentOf(look));
+  style.setLayoutDirection(look.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+  style.setLeftMargin(std::max(0.0, PixelsOf(look.left)));
+  style.setRightMargin(std::max(0.0, PixelsOf(look.right)));
+  style.setTextIndent(std::max(PixelsOf(look.first), -style.leftMargin()));
+  style.setTopMargin(std::max(0.0, PixelsOf(look.before)));
+  style.setBottomMargin(std::max(0.0, PixelsOf(look.after)));
+  if (look.inTable) SetInTable(style);
+  return style;
+}
+
+}  // namespace
+
+double RaisedPercent(Twips offset, int halfPoints) {
+  // A tagged term stands a point and a quarter above its line: too little to be seen at a glance.
+  constexpr double kLeastPercent = 22;
+  constexpr double kMostPercent = 60;
+  const double percent = 10.0 * offset / halfPoints;
+  return std::copysign(std::clamp(std::abs(percent), kLeastPercent, kMostPercent), percent);
+}
+
+void TextStyles::Use(const Document& document) {
+  document_ = &document;
+  characters_.clear();
+  paragraphs_.clear();
+  known_.clear();
+}
+
+void TextStyles::Learn(FormatId id) {
+  if (id < known_.size() && known_[id]) return;
+  if (id >= known_.size()) {
+    const std::size_t size = document_->Formats().Size();
+    characters_.resize(size);
+    paragraphs_.resize(size);
+    known_.resize(size);
+  }
+  const Format& format = document_->Formats()[id];
+  characters_[id] = CharacterStyle(format, document_->Fonts());
+  paragraphs_[id] = ParagraphStyle(format.paragraph);
+  known_[id] = true;
+}
+
+const QTextCharFormat& TextStyles::Character(FormatId id) {
+  Learn(id);
+  return characters_[id];
+}
+
+const QTextBlockFormat& TextStyles::Paragraph(FormatId id) {
+  Learn(id);
+  return paragraphs_[id];
+}
+
+}  // namespace quill
