@@ -29,14 +29,20 @@ QRect PlaceIn(QSize room, const CatalogueRow& row, bool guidanceShown) {
   const int wider = room.width() - StoredSize().width();
   const int higher = std::max(room.height(), LeastSize().height()) - StoredSize().height();
   QRect place = PixelsOf(row.place);
-  if (row.name == "RichTextBox1") {
-    place.setSize(place.size() + QSize(wider, higher));
-    if (guidanceShown) place.setRight(PlaceIn(room, RowOf("User_Dialogue"), true).left() - kGap);
-  } else if (row.name == "User_Dialogue") {
-    place.translate(wider, 0);
-    place.setHeight(place.height() + higher);
-  } else if (row.name == "PreFrame" || row.name == "PostFrame") {
-    place.translate(0, higher);
+  switch (row.stored.byWindow) {
+    case ByWindow::kGrows:
+      place.setSize(place.size() + QSize(wider, higher));
+      if (guidanceShown) place.setRight(PlaceIn(room, RowOf("User_Dialogue"), true).left() - kGap);
+      break;
+    case ByWindow::kKeepsRight:
+      place.translate(wider, 0);
+      place.setHeight(place.height() + higher);
+      break;
+    case ByWindow::kMovesDown:
+      place.translate(0, higher);
+      break;
+    case ByWindow::kStays:
+      break;
   }
   return place;
 }

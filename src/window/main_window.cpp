@@ -20,8 +20,9 @@
 
 #include "text/marks.h"
 #include "window/application.h"
+#include "window/controls/binders.h"
 #include "window/controls/menus.h"
-#include "window/controls/names.h"
+#include "window/controls/tab_order.h"
 #include "window/copies/unsaved_copies.h"
 #include "window/layout.h"
 #include "window/shared/appearance.h"

@@ -46,6 +46,14 @@ struct Place {
   int height = 0;
 };
 
+// What becomes of a place where the window is larger or smaller than stored.
+enum class ByWindow : std::uint8_t {
+  kStays,
+  kGrows,       // takes what the window gains in both directions
+  kKeepsRight,  // stays at the right edge and takes what the window gains in height
+  kMovesDown,
+};
+
 // Stored properties other than caption and place. Those that a row omits have these defaults.
 struct Stored {
   bool enabled = true;
@@ -61,6 +69,11 @@ struct Stored {
   bool bold = false;
   double points = 0;  // font size where it is stored, else 0
   std::u32string_view toolTip = {};
+  ByWindow byWindow = ByWindow::kStays;
+  // What assistive technology calls the control, where it is not its caption, and what the control
+  // is for, where no tool tip says so.
+  std::u32string_view spoken = {};
+  std::u32string_view purpose = {};
 };
 
 // One row. Rows are in stacking order, front first, each container before its contents.

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "window/shared/actions.h"
 #include "window/shared/binder.h"
 
 class QMenuBar;

@@ -2,11 +2,6 @@
 // hands the user's actions to the program, and shows what the model says.
 #pragma once
 
-#include <memory>
-
-#include "window/shared/actions.h"
-#include "workbench/control.h"
-
 class QWidget;
 
 namespace quill {
@@ -31,29 +26,5 @@ class Binder {
   virtual void ItemRemoved(int /*index*/) {}
   virtual void ItemsChanged() {}
 };
-
-// What all binders of widgets share.
-class WidgetBinder : public Binder {
- public:
-  QWidget* Widget() const final { return &widget_; }
-  // Shows whether the control is enabled and visible.
-  void Show() override;
-  void TakeFocus() override;
-
- protected:
-  // Sets name, place, font and tool tip. The widget belongs to its parent.
-  WidgetBinder(const Control& control, QWidget& widget, Actions& actions);
-
-  Actions& TheActions() const { return actions_; }
-
- private:
-  const Control& control_;
-  QWidget& widget_;
-  Actions& actions_;
-};
-
-// Makes the widget of a control inside `container`, and its binder. Controls that have no widget
-// of their own in a container (menu items, the dialog, the text) are none of its business.
-std::unique_ptr<Binder> MakeBinder(Control& control, QWidget& container, Actions& actions);
 
 }  // namespace quill

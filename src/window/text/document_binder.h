@@ -5,7 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "window/shared/binder.h"
+#include "window/shared/actions.h"
+#include "window/shared/widget_binder.h"
 #include "window/text/document_view.h"
 #include "window/text/text_changes.h"
 #include "window/text/text_styles.h"

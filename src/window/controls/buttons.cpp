@@ -1,4 +1,5 @@
-#include "window/controls/button_binder.h"
+// Buttons, drawn flat, in their own colour where they show one, with captions that wrap.
+#include "window/controls/binders.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -6,6 +7,7 @@
 
 #include "window/shared/appearance.h"
 #include "window/shared/shown.h"
+#include "window/shared/widget_binder.h"
 
 namespace quill {
 namespace {
@@ -86,7 +88,13 @@ CaptionButton* NewButton(const CatalogueRow& row, QWidget& parent) {
   return new CaptionButton(parent, face, coloured);
 }
 
-}  // namespace
+class ButtonBinder final : public WidgetBinder {
+ public:
+  ButtonBinder(CommandButton& button, QWidget& container, Actions& actions);
+
+ private:
+  ButtonBinder(CommandButton& button, QPushButton& widget, Actions& actions);
+};
 
 ButtonBinder::ButtonBinder(CommandButton& button, QWidget& container, Actions& actions)
     : ButtonBinder(button, *NewButton(button.Row(), container), actions) {}
@@ -96,6 +104,12 @@ ButtonBinder::ButtonBinder(CommandButton& button, QPushButton& widget, Actions& 
   widget.setText(ToQt(button.Row().text));
   QObject::connect(&widget, &QPushButton::clicked, &widget,
                    [this, &button] { TheActions().Click(button); });
+}
+
+}  // namespace
+
+std::unique_ptr<Binder> BindButton(CommandButton& button, QWidget& container, Actions& actions) {
+  return std::make_unique<ButtonBinder>(button, container, actions);
 }
 
 }  // namespace quill

@@ -1,4 +1,8 @@
-#include "window/controls/list_box_binder.h"
+// List boxes: quick with as many items as a list can hold. What is highlighted is the list's own
+// ListIndex: a left click on a row and the keys that move or find a row are a user's choice, and
+// nothing else selects. The selected item is scrolled into view whenever the program selects it,
+// and the view scrolls sideways to the end of the longest.
+#include "window/controls/binders.h"
 
 #include <QAbstractListModel>
 #include <QApplication>
@@ -16,13 +20,21 @@
 #include <numeric>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "window/shared/appearance.h"
 #include "window/shared/cut_text.h"
 #include "window/shared/shown.h"
+#include "window/shared/widget_binder.h"
 
 namespace quill {
 namespace {
+
+struct ItemChange {
+  bool inserted = false;  // else removed
+  int index = 0;
+  int weight = 0;  // of the text inserted: a measure of its width
+};
 
 // A wide character, as of Chinese, takes the room of two.
 constexpr char32_t kFirstWide = 0x1100;
@@ -133,8 +145,6 @@ class Selection : public QItemSelectionModel {
 bool IsPlain(Qt::KeyboardModifiers modifiers) {
   return (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
 }
-
-}  // namespace
 
 // Tells which item the user chose, with the mouse or with the keys. It reads mouse and keys itself.
 class ListView : public QListView {
@@ -281,6 +291,26 @@ class ListView : public QListView {
   QElapsedTimer typing_;
 };
 
+class ListBoxBinder final : public WidgetBinder {
+ public:
+  ListBoxBinder(ListBox& list, QWidget& container, Actions& actions);
+  void Show() override;
+  void ReadBack() override;
+  void ItemInserted(int index) override;
+  void ItemRemoved(int index) override;
+  void ItemsChanged() override;
+
+ private:
+  ListBoxBinder(ListBox& list, ListView& view, Actions& actions);
+
+  // More changes than these are shown as a new list.
+  static constexpr std::size_t kMostSingleChanges = 8;
+
+  ListBox& list_;
+  ListView& view_;
+  std::vector<ItemChange> changes_;  // since the list was last shown
+};
+
 ListBoxBinder::ListBoxBinder(ListBox& list, QWidget& container, Actions& actions)
     : ListBoxBinder(list, *new ListView(container, list), actions) {}
 
@@ -322,5 +352,11 @@ void ListBoxBinder::ItemRemoved(int index) {
 }
 
 void ListBoxBinder::ItemsChanged() { changes_.assign(kMostSingleChanges + 1, {}); }
+
+}  // namespace
+
+std::unique_ptr<Binder> BindListBox(ListBox& list, QWidget& container, Actions& actions) {
+  return std::make_unique<ListBoxBinder>(list, container, actions);
+}
 
 }  // namespace quill

@@ -1,4 +1,5 @@
-#include "window/controls/frame_binder.h"
+// Frames, which group controls and cover what lies behind them, and labels.
+#include "window/controls/binders.h"
 
 #include <QAccessibleWidget>
 #include <QGroupBox>
@@ -9,6 +10,7 @@
 #include "window/shared/appearance.h"
 #include "window/shared/edges.h"
 #include "window/shared/shown.h"
+#include "window/shared/widget_binder.h"
 
 namespace quill {
 namespace {
@@ -79,7 +81,21 @@ QGroupBox* NewPanel(const CatalogueRow& row, QWidget& container) {
   return new Panel(container, BackgroundOf(row), ToQColor(row.stored.foreColor));
 }
 
-}  // namespace
+class FrameBinder final : public WidgetBinder {
+ public:
+  FrameBinder(Frame& frame, QWidget& container, Actions& actions);
+
+ private:
+  FrameBinder(Frame& frame, QGroupBox& box, Actions& actions);
+};
+
+class LabelBinder final : public WidgetBinder {
+ public:
+  LabelBinder(Label& label, QWidget& container, Actions& actions);
+
+ private:
+  LabelBinder(Label& label, QLabel& widget, Actions& actions);
+};
 
 FrameBinder::FrameBinder(Frame& frame, QWidget& container, Actions& actions)
     : FrameBinder(frame, *NewPanel(frame.Row(), container), actions) {}
@@ -101,6 +117,16 @@ LabelBinder::LabelBinder(Label& label, QLabel& widget, Actions& actions)
   widget.setAlignment(Qt::AlignLeft | Qt::AlignTop);
   widget.setText(text);
   widget.setFont(FittingFont(widget.font(), text, widget.size()));
+}
+
+}  // namespace
+
+std::unique_ptr<Binder> BindFrame(Frame& frame, QWidget& container, Actions& actions) {
+  return std::make_unique<FrameBinder>(frame, container, actions);
+}
+
+std::unique_ptr<Binder> BindLabel(Label& label, QWidget& container, Actions& actions) {
+  return std::make_unique<LabelBinder>(label, container, actions);
 }
 
 }  // namespace quill

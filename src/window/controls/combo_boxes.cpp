@@ -1,4 +1,5 @@
-#include "window/controls/combo_box_binder.h"
+// Combo boxes: an edit line that takes any text, and rows to pick from.
+#include "window/controls/binders.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -8,6 +9,7 @@
 #include "window/shared/appearance.h"
 #include "window/shared/edit_widgets.h"
 #include "window/shared/shown.h"
+#include "window/shared/widget_binder.h"
 
 namespace quill {
 namespace {
@@ -21,7 +23,22 @@ class Combo : public QComboBox {
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
-}  // namespace
+class ComboBoxBinder final : public WidgetBinder {
+ public:
+  ComboBoxBinder(ComboBox& combo, QWidget& container, Actions& actions);
+  void Show() override;
+
+ private:
+  ComboBoxBinder(ComboBox& combo, QComboBox& widget, Actions& actions);
+  void ShowRows();
+  void ShowLine();
+  void FitLine();
+  void Edited(const QString& now);
+  void Picked(int row);
+
+  ComboBox& combo_;
+  QComboBox& widget_;
+};
 
 ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& container, Actions& actions)
     : ComboBoxBinder(combo, *new Combo(&container), actions) {}
@@ -94,6 +111,12 @@ void ComboBoxBinder::FitLine() {
   const QSize room(widget_.width() - kArrowAndEdges, widget_.height());
   QLineEdit& line = *widget_.lineEdit();
   line.setFont(FittingFont(widget_.font(), line.text().trimmed(), room));
+}
+
+}  // namespace
+
+std::unique_ptr<Binder> BindComboBox(ComboBox& combo, QWidget& container, Actions& actions) {
+  return std::make_unique<ComboBoxBinder>(combo, container, actions);
 }
 
 }  // namespace quill

@@ -1,0 +1,26 @@
+// The controls of the window: their widgets, each with its binder.
+#pragma once
+
+#include <memory>
+
+#include "window/shared/actions.h"
+#include "window/shared/binder.h"
+#include "workbench/control.h"
+
+class QWidget;
+
+namespace quill {
+
+// Each makes the widget of a control inside `container`, and its binder.
+std::unique_ptr<Binder> BindButton(CommandButton& button, QWidget& container, Actions& actions);
+std::unique_ptr<Binder> BindComboBox(ComboBox& combo, QWidget& container, Actions& actions);
+std::unique_ptr<Binder> BindFrame(Frame& frame, QWidget& container, Actions& actions);
+std::unique_ptr<Binder> BindLabel(Label& label, QWidget& container, Actions& actions);
+std::unique_ptr<Binder> BindListBox(ListBox& list, QWidget& container, Actions& actions);
+std::unique_ptr<Binder> BindTextBox(TextBox& box, QWidget& container, Actions& actions);
+
+// The one of the control's kind. Controls that have no widget of their own in a container (menu
+// items, the dialog, the text) are none of its business.
+std::unique_ptr<Binder> MakeBinder(Control& control, QWidget& container, Actions& actions);
+
+}  // namespace quill
