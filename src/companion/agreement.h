@@ -14,16 +14,13 @@
 #include <utility>
 #include <vector>
 
-#include "text/document.h"
+#include "companion/tag_list.h"
 
 namespace quill::companion {
 
 // A value of an enumerated field as a number: equal values, equal labels.
 using Label = std::int32_t;
 constexpr Label kNotGiven = -1;
-
-// Class, operator, mode, type and granularity, in this order.
-constexpr std::size_t kJudgedFields = 5;
 
 struct Referred {
   bool given = false;
@@ -35,7 +32,7 @@ struct Referred {
 // What one reader says of one span.
 struct Judgement {
   Range span;
-  std::array<Label, kJudgedFields> labels;
+  std::array<Label, kEnumeratedFields.size()> labels;  // in the order of kEnumeratedFields
   Referred reference;
 };
 

@@ -1,14 +1,10 @@
 #include "companion/agreement_figures.h"
 
-#include <array>
 #include <iterator>
 #include <utility>
 
 namespace quill::companion {
 namespace {
-
-constexpr std::array<const char*, kJudgedFields> kFieldNames = {"class", "operator", "mode", "type",
-                                                                "granularity"};
 
 class Figures {
  public:
@@ -49,9 +45,9 @@ void ComparePair(const Named& a, const Named& b, Matching matching, Figures& fig
   figures.Value("precision", spans.Precision(), spans.spansB);
   figures.Value("recall", spans.Recall(), spans.spansA);
   figures.Value("f1", spans.F1(), spans.spansA + spans.spansB);
-  for (std::size_t field = 0; field < kJudgedFields; ++field) {
+  for (std::size_t field = 0; field < kEnumeratedFields.size(); ++field) {
     const LabelAgreement labels = CompareLabels(a.second, b.second, matches, field);
-    figures.Of(a.first, b.first, kFieldNames[field]);
+    figures.Of(a.first, b.first, kEnumeratedFields[field].name);
     figures.Count("n", labels.compared);
     figures.Value("agreement", labels.Agreement(), labels.compared);
     figures.Value("kappa", labels.kappa, labels.compared);
@@ -63,9 +59,9 @@ void ComparePair(const Named& a, const Named& b, Matching matching, Figures& fig
 }
 
 void CompareAll(const std::vector<Reading>& readings, Figures& figures) {
-  for (std::size_t field = 0; field < kJudgedFields; ++field) {
+  for (std::size_t field = 0; field < kEnumeratedFields.size(); ++field) {
     const Reliability reliability = MeasureReliability(readings, field);
-    figures.Of("*", "*", kFieldNames[field]);
+    figures.Of("*", "*", kEnumeratedFields[field].name);
     figures.Value("alpha", reliability.alpha, reliability.units);
   }
 }

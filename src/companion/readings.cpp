@@ -14,10 +14,6 @@
 namespace quill::companion {
 namespace {
 
-constexpr std::array<std::size_t, kJudgedFields> kJudged = {TagField::kClass, TagField::kOperator,
-                                                            TagField::kMode, TagField::kType,
-                                                            TagField::kGranularity};
-
 class Labels {
  public:
   Label Of(std::u32string_view value) {
@@ -109,15 +105,15 @@ class Collector {
   Judgement JudgementOf(const Tag& tag) {
     Judgement judgement;
     judgement.span = tag.span;
-    for (std::size_t i = 0; i < kJudged.size(); ++i) {
-      judgement.labels[i] = labels_[i].Of(Given(tag, kJudged[i]));
+    for (std::size_t i = 0; i < kEnumeratedFields.size(); ++i) {
+      judgement.labels[i] = labels_[i].Of(Given(tag, kEnumeratedFields[i].field));
     }
     if (const auto reference = ReferenceOf(tag)) judgement.reference = {true, reference->span};
     return judgement;
   }
 
   const std::string& by_;
-  std::array<Labels, kJudgedFields> labels_;
+  std::array<Labels, kEnumeratedFields.size()> labels_;
   std::map<std::string, Spans> readers_;
 };
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <map>
 #include <set>
@@ -14,23 +15,13 @@
 namespace quill::companion {
 namespace {
 
-struct CountedField {
-  const char* name;
-  std::size_t field;
-};
-constexpr std::array<CountedField, 5> kCounted = {{{"class", TagField::kClass},
-                                                   {"operator", TagField::kOperator},
-                                                   {"mode", TagField::kMode},
-                                                   {"type", TagField::kType},
-                                                   {"granularity", TagField::kGranularity}}};
-
 struct Counts {
   Position characters = 0;
   Position tags = 0;
   Position references = 0;
   std::set<std::u32string, std::less<>> users;
   std::set<std::u32string, std::less<>> sessions;
-  std::array<std::map<std::u32string, Position, std::less<>>, kCounted.size()> values;
+  std::array<std::map<std::u32string, Position, std::less<>>, kEnumeratedFields.size()> values;
 };
 
 void CountName(std::set<std::u32string, std::less<>>& names, std::u32string_view name) {
@@ -42,8 +33,8 @@ void CountTag(Counts& counts, const Tag& tag) {
   if (ReferenceOf(tag)) ++counts.references;
   CountName(counts.users, Given(tag, TagField::kUserId));
   CountName(counts.sessions, Given(tag, TagField::kSessionId));
-  for (std::size_t i = 0; i < kCounted.size(); ++i) {
-    ++counts.values[i][std::u32string(Given(tag, kCounted[i].field))];
+  for (std::size_t i = 0; i < kEnumeratedFields.size(); ++i) {
+    ++counts.values[i][std::u32string(Given(tag, kEnumeratedFields[i].field))];
   }
 }
 
@@ -62,7 +53,7 @@ void Add(Counts& all, const Counts& one) {
   all.references += one.references;
   all.users.insert(one.users.begin(), one.users.end());
   all.sessions.insert(one.sessions.begin(), one.sessions.end());
-  for (std::size_t i = 0; i < kCounted.size(); ++i) {
+  for (std::size_t i = 0; i < kEnumeratedFields.size(); ++i) {
     for (const auto& [value, count] : one.values[i]) all.values[i][value] += count;
   }
 }
@@ -86,9 +77,9 @@ std::vector<Row> RowsOf(const Counts& counts) {
                            {"tags_per_10000_characters", "", Density(counts)},
                            {"users", "", std::to_string(counts.users.size())},
                            {"sessions", "", std::to_string(counts.sessions.size())}};
-  for (std::size_t i = 0; i < kCounted.size(); ++i) {
+  for (std::size_t i = 0; i < kEnumeratedFields.size(); ++i) {
     for (const auto& [value, count] : counts.values[i]) {
-      rows.push_back({kCounted[i].name, ToUtf8(value), std::to_string(count)});
+      rows.push_back({kEnumeratedFields[i].name, ToUtf8(value), std::to_string(count)});
     }
   }
   rows.push_back({"references", "", std::to_string(counts.references)});
@@ -101,16 +92,18 @@ std::string CsvOf(const std::string& file, const std::vector<Row>& rows) {
   return table;
 }
 
+bool IsEnumerated(std::string_view name) {
+  return std::any_of(kEnumeratedFields.begin(), kEnumeratedFields.end(),
+                     [&](const EnumeratedField& field) { return field.name == name; });
+}
+
 // Two columns under the name of the file: what was counted, and how often.
 std::string TableOf(const std::string& file, const std::vector<Row>& rows) {
   constexpr std::size_t kFirstColumn = 28;
   std::string table = file + "\n";
   for (const Row& row : rows) {
-    const bool isValue = row.value.empty() &&
-                         (row.field == "class" || row.field == "operator" || row.field == "mode" ||
-                          row.field == "type" || row.field == "granularity");
     std::string label = "  " + row.field;
-    if (isValue) label += " not given";
+    if (row.value.empty() && IsEnumerated(row.field)) label += " not given";
     if (!row.value.empty()) label += " " + row.value;
     if (row.field == "tags_per_10000_characters") label = "  tags per 10,000 characters";
     label.resize(std::max(label.size() + 2, kFirstColumn + 4), ' ');

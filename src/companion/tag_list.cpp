@@ -13,22 +13,23 @@ constexpr std::u32string_view kOpening = U"t_op(";
 constexpr std::u32string_view kClosing = U" )";
 constexpr std::size_t kSeparator = 2;  // a backslash and a blank
 
-// What a box holds before anything is entered; the others hold nothing that is taken for a value.
-constexpr std::array<std::u32string_view, TagField::kCount> kPlaceholders = {U"",
-                                                                             U"",
-                                                                             U"",
-                                                                             U"",
-                                                                             U"Session-ID",
-                                                                             U"User-ID",
-                                                                             U"Class",
-                                                                             U"Operator",
-                                                                             U"Mode",
-                                                                             U"Type",
-                                                                             U"Granularity",
-                                                                             U"Value ?",
-                                                                             U"Reference Tag",
-                                                                             U"",
-                                                                             U""};
+// By fields. Numbers have none: what is no digit is no number anyhow.
+constexpr std::array<std::u32string_view, TagField::kCount> kPlaceholders = {
+    U"",
+    U"",
+    U"",
+    U"",
+    Placeholder::kSessionId,
+    Placeholder::kUserId,
+    Placeholder::kClass,
+    Placeholder::kOperator,
+    Placeholder::kMode,
+    Placeholder::kType,
+    Placeholder::kGranularity,
+    Placeholder::kValue,
+    Placeholder::kRefTerm,
+    U"",
+    U""};
 
 bool IsBlank(char32_t c) { return c == U' ' || c == U'\t'; }
 

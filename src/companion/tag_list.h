@@ -5,6 +5,7 @@
 // count and are neither.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -17,6 +18,18 @@
 #include "text/document.h"
 
 namespace quill::companion {
+
+// The fields that take one of a few values, under the names that tables have for them.
+struct EnumeratedField {
+  const char* name;
+  std::size_t field;
+};
+inline constexpr std::array<EnumeratedField, 5> kEnumeratedFields = {
+    {{"class", TagField::kClass},
+     {"operator", TagField::kOperator},
+     {"mode", TagField::kMode},
+     {"type", TagField::kType},
+     {"granularity", TagField::kGranularity}}};
 
 struct Tag {
   std::size_t line = 0;

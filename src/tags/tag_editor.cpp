@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "tags/tag_record.h"
 #include "workbench/form1.h"
 
 namespace quill {
@@ -21,40 +22,41 @@ void WriteRows(ComboBox& combo, std::initializer_list<std::u32string_view> rows)
 void ResetTagEditor(Form1& form) {
   form.TaggedString.Text = U" ";
   form.marked_term.Text = U" ";
-  form.ID.Text = U"Tag-ID";
-  form.StartPosition.Text = U"Start";
-  form.EndPosition.Text = U"End";
-  form.ClassCombo.Text = U"Class";
-  form.OperatorCombo.Text = U"Operator";
-  form.ModeCombo.Text = U"Mode";
-  form.TypeCombo.Text = U"Type";
-  form.GranCombo.Text = U"Granularity";
-  form.ValBox.Text = U"Value ?";
+  form.ID.Text = Placeholder::kId;
+  form.StartPosition.Text = Placeholder::kStart;
+  form.EndPosition.Text = Placeholder::kEnd;
+  form.ClassCombo.Text = Placeholder::kClass;
+  form.OperatorCombo.Text = Placeholder::kOperator;
+  form.ModeCombo.Text = Placeholder::kMode;
+  form.TypeCombo.Text = Placeholder::kType;
+  form.GranCombo.Text = Placeholder::kGranularity;
+  form.ValBox.Text = Placeholder::kValue;
   form.TagList.ListIndex = -1;
   form.RefTagStart.Text = U" ";
   form.RefTagStop.Text = U" ";
-  form.RefBox.Text = U"Reference Tag";
+  form.RefBox.Text = Placeholder::kRefTerm;
   form.Generate_Tag.Enabled = false;
 }
 
 void ApplyTagEditorRules(Form1& form) {
-  form.ClassCombo.Enabled = form.StartPosition.Text != U"Start";
+  form.ClassCombo.Enabled = form.StartPosition.Text != Placeholder::kStart;
   // The list's first row is "Class" and a tab: picking it counts as a class chosen.
-  form.OperatorCombo.Enabled = form.ClassCombo.Text != U"Class";
+  form.OperatorCombo.Enabled = form.ClassCombo.Text != Placeholder::kClass;
   form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(kPlaceholderRow);
-  form.TypeCombo.Enabled = form.ModeCombo.Text != U"Mode";
+  form.TypeCombo.Enabled = form.ModeCombo.Text != Placeholder::kMode;
   form.RefFrame.Visible = form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kRelative);
-  if (form.TypeCombo.Text == U"Type") {
+  if (form.TypeCombo.Text == Placeholder::kType) {
     form.GranCombo.Enabled = false;
     form.ValBox.Enabled = false;
   } else {
     form.GranCombo.Enabled = true;
     form.ValBox.Enabled = true;
-    form.RefTag.Enabled = !(form.RefFrame.Visible && form.GranCombo.Text == U"Granularity");
-    form.Generate_Tag.Enabled = form.RefFrame.Visible && form.RefBox.Text != U"Reference Tag";
+    form.RefTag.Enabled =
+        !(form.RefFrame.Visible && form.GranCombo.Text == Placeholder::kGranularity);
+    form.Generate_Tag.Enabled = form.RefFrame.Visible && form.RefBox.Text != Placeholder::kRefTerm;
   }
   if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kAbsolute) &&
-      form.ValBox.Text != U"Value ?") {
+      form.ValBox.Text != Placeholder::kValue) {
     form.Generate_Tag.Enabled = true;
   }
 }
@@ -66,11 +68,11 @@ void OperatorCombo_Click(Form1& form) { ApplyTagEditorRules(form); }
 void ModeCombo_Click(Form1& form) {
   if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kAbsolute)) {
     form.RefFrame.Visible = false;
-    WriteRows(form.TypeCombo, {U"Type", U"at", U"start", U"finishes"});
+    WriteRows(form.TypeCombo, {Placeholder::kType, U"at", U"start", U"finishes"});
   }
   if (form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kRelative)) {
     form.RefFrame.Visible = true;
-    WriteRows(form.TypeCombo, {U"Type", U"before", U"after", U"while", U"same"});
+    WriteRows(form.TypeCombo, {Placeholder::kType, U"before", U"after", U"while", U"same"});
   }
   // Before the first pick of a mode the list is empty, and so is its first row.
   form.TypeCombo.Text = form.TypeCombo.ListCount() > 0 ? form.TypeCombo.List(kPlaceholderRow) : U"";

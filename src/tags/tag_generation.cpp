@@ -27,8 +27,8 @@ void ColourTaggedString(Form1& form) {
   if (const auto kind = KindOfTag(form.OperatorCombo.Text.Get())) {
     form.TaggedString.ForeColor = MarkColour(*kind);
   }
-  if (form.ClassCombo.Text == U"Class" || form.OperatorCombo.Text == U"Function" ||
-      form.ModeCombo.Text == U"Order" || form.TypeCombo.Text == U"Type" ||
+  if (form.ClassCombo.Text == Placeholder::kClass || form.OperatorCombo.Text == U"Function" ||
+      form.ModeCombo.Text == U"Order" || form.TypeCombo.Text == Placeholder::kType ||
       form.ValBox.Text == U"Value?") {
     form.TaggedString.ForeColor = kNotFilledIn;
   }
@@ -37,8 +37,8 @@ void ColourTaggedString(Form1& form) {
 }  // namespace
 
 void Generate_Tag_Click(Form1& form) {
-  if (form.StartPosition.Text == U"Start") return;
-  if (form.EndPosition.Text == U"End") return;
+  if (form.StartPosition.Text == Placeholder::kStart) return;
+  if (form.EndPosition.Text == Placeholder::kEnd) return;
   if (form.TagList.ListIndex != -1) TakeSelectedTag(form);
   AssignNextTagID(form);
   form.ID.Text = TextOf(form.WorkState.NextTagID);

@@ -39,6 +39,22 @@ struct TagField {
   };
 };
 
+// What the controls of a tag show before anything is entered. In a line it says that nothing was.
+struct Placeholder {
+  static constexpr const char32_t* kId = U"Tag-ID";
+  static constexpr const char32_t* kStart = U"Start";
+  static constexpr const char32_t* kEnd = U"End";
+  static constexpr const char32_t* kSessionId = U"Session-ID";
+  static constexpr const char32_t* kUserId = U"User-ID";
+  static constexpr const char32_t* kClass = U"Class";
+  static constexpr const char32_t* kOperator = U"Operator";
+  static constexpr const char32_t* kMode = U"Mode";
+  static constexpr const char32_t* kType = U"Type";
+  static constexpr const char32_t* kGranularity = U"Granularity";
+  static constexpr const char32_t* kValue = U"Value ?";
+  static constexpr const char32_t* kRefTerm = U"Reference Tag";
+};
+
 using TagFields = std::array<std::u32string_view, TagField::kCount>;
 
 std::u32string ComposeTag(const TagFields& fields);
