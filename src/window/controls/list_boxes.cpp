@@ -45,8 +45,11 @@ int Weight(std::u32string_view item) {
              std::count_if(item.begin(), item.end(), [](char32_t c) { return c >= kFirstWide; }));
 }
 
+// In one line: behind an end of line the toolkit would leave the rest of the item out.
 QString Shown(std::u32string_view item) {
-  return ToQt(item).replace(QLatin1Char('\n'), QLatin1Char(' '));
+  QString line = ToQt(item);
+  for (const char16_t end : {u'\n', u'\r', u'\u2028', u'\u2029'}) line.replace(end, u' ');
+  return line;
 }
 
 // The items of the list, without a copy: what was shown last differs from the list only by changes
