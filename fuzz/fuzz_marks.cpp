@@ -59,8 +59,7 @@ void CheckMarks(const Document& original, const std::vector<Step>& steps) {
   Require(rtf::Write(document) == original.GetSource().bytes,
           "marking and unmarking changed the bytes");
 
-  // Taking a mark off a broken character leaves something in place of its braces, once: sizes count
-  // from the second round.
+  // A text that is written anew may be longer, once: sizes count from the second round.
   std::size_t first = 0;
   for (int round = 0; round < 3; ++round) {
     MarkAll(document, steps);

@@ -39,7 +39,7 @@ bool ReadsAs(const Document& document, std::string bytes) {
 std::string Write(const Document& document) {
   std::string patched = Patched(document);
   const Source& source = document.GetSource();
-  if (source.wellFormed || patched == source.bytes || ReadsAs(document, patched)) return patched;
+  if (source.wellFormed || ReadsAs(document, patched)) return patched;
   return Rewritten(document);
 }
 

@@ -23,7 +23,6 @@ struct Origin {
     kPlain = 0,
     kCellEnd = 1,
     kRowEnd = 2,
-    kSplit = 3,  // two halves of a pair with formatting between them: see SplitPair
   };
 
   Offset begin = 0;
@@ -50,16 +49,6 @@ struct MarkGroup {
   bool operator==(const MarkGroup&) const = default;
 };
 
-// Words that stand between the two halves of a surrogate pair, inside the bytes of one character.
-// They hold for what follows, so that they must not come into a group with the character.
-struct SplitPair {
-  Offset begin = 0;  // of the character
-  Offset wordsBegin = 0;
-  Offset wordsEnd = 0;
-
-  bool operator==(const SplitPair&) const = default;
-};
-
 // The colour table of the file, entries numbered from 0.
 struct ColourTable {
   struct Entry {
@@ -78,9 +67,8 @@ struct ColourTable {
 struct Source {
   std::string bytes;
   ColourTable colours;
-  std::vector<MarkGroup> groups;      // in the order of their opening braces, nested ones included
-  std::vector<SplitPair> splitPairs;  // in order
-  Offset bodyEnd = 0;                 // where a first character of an empty text goes in
+  std::vector<MarkGroup> groups;  // in the order of their opening braces, nested ones included
+  Offset bodyEnd = 0;             // where a first character of an empty text goes in
   // Whether all of it is as programs write rich text. Where it is not, bytes of our own may be read
   // together with what stands beside them, and a save is read again before it is trusted.
   bool wellFormed = true;

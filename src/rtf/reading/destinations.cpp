@@ -24,7 +24,6 @@ void TextReader::TakeDestination(const WordEntry& entry, const Token& token) {
       return;
     case Word::kAlternatives:
       skipNext_ = IsGroupsFirst();
-      alternativesAt_ = token.begin;
       marks_.Other();
       return;
     case Word::kPictureForm:

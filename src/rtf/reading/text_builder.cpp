@@ -33,7 +33,7 @@ void TextBuilder::AddBytes(std::string_view bytes, Offset begin) {
   std::size_t at = 0;
   while (at < bytes.size()) {
     const auto here = static_cast<Offset>(begin + at);
-    if (!sequence_.empty() || reachesAt_ == here || page.IsSymbol() || !IsAscii(bytes[at])) {
+    if (!sequence_.empty() || page.IsSymbol() || !IsAscii(bytes[at])) {
       AddByte(static_cast<unsigned char>(bytes[at]), here, here + 1);
       ++at;
       continue;
@@ -95,8 +95,8 @@ bool TextBuilder::AddUnicode(std::int32_t number, Offset begin, Offset end) {
   if (IsLowHalf(c) && highHalf_ != 0) {
     const char32_t whole = 0x10000 + ((highHalf_ - 0xD800) << 10U) + (c - 0xDC00);
     highHalf_ = 0;
-    if (pairIsSplit_) splitPairs_.push_back({pairBegin_, pairEnd_, begin});
-    Put(whole, pairBegin_, end, pairIsSplit_ ? Origin::kSplit : Origin::kPlain);
+    if (pairIsSplit_) isWhole_ = false;
+    Put(whole, pairBegin_, end);
     return true;
   }
   EndPair();
@@ -122,11 +122,6 @@ void TextBuilder::ExtendUnicode(Offset end) {
   } else {
     ExtendLast(end);
   }
-}
-
-void TextBuilder::ReachBack(Offset from, Offset at) {
-  reachesFrom_ = from;
-  reachesAt_ = at;
 }
 
 void TextBuilder::WordComes() {
@@ -162,7 +157,6 @@ void TextBuilder::Put(char32_t character, Offset begin, Offset end, Origin::Kind
   if (text_.size() >= nextLook_) LookAhead(begin);
   text_ += character;
   formats_.Append(1, states_.Format());
-  if (begin == reachesAt_) begin = reachesFrom_;
   origins_.Append({begin, end - begin, kind});
 }
 

@@ -33,25 +33,22 @@ class TextBuilder {
   bool AddUnicode(std::int32_t number, Offset begin, Offset end);
   // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
   void ExtendUnicode(Offset end);
-  // If the next character begins at `at`, what stands between `from` and there belongs to it.
-  void ReachBack(Offset from, Offset at);
   // The last character reaches to `end`.
   void ExtendLast(Offset end) { origins_.ExtendLast(end); }
 
   // Whether the last byte leads a multi-byte character that is not whole yet.
   bool AwaitsByte() const { return !sequence_.empty(); }
-  // A word other than \u comes: bytes that wait are over, and a pair holds formatting.
+  // A word other than \u comes: bytes that wait are over.
   void WordComes();
   // A brace or a character comes: nothing waits any longer.
   void Flush();
 
   std::size_t Size() const { return text_.size(); }
-  // Whether no character was broken off, or its halves parted.
-  bool IsWhole() const { return isWhole_ && splitPairs_.empty(); }
+  // Whether no character was broken off, or its halves parted by words.
+  bool IsWhole() const { return isWhole_; }
   std::u32string TakeText() { return std::move(text_); }
   FormatNumbers TakeFormats() { return std::move(formats_); }
   OriginList TakeOrigins() { return std::move(origins_); }
-  std::vector<SplitPair> TakeSplitPairs() { return std::move(splitPairs_); }
 
  private:
   void Put(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
@@ -61,10 +58,7 @@ class TextBuilder {
   void EndPair();
   void PutBroken(Offset begin, Offset end);
 
-  static constexpr Offset kNowhere = ~Offset{0};
-
   StateStack& states_;
-  std::vector<SplitPair> splitPairs_;
   std::u32string text_;
   FormatNumbers formats_;
   OriginList origins_;
@@ -76,8 +70,6 @@ class TextBuilder {
   Offset sequenceEnd_ = 0;
 
   bool isWhole_ = true;
-  Offset reachesFrom_ = 0;
-  Offset reachesAt_ = kNowhere;
   char32_t highHalf_ = 0;     // of a pair, or 0
   bool pairIsSplit_ = false;  // words stand behind the high half
   FormatId halfFormat_ = 0;   // that in force at the high half

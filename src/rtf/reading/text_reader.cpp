@@ -10,7 +10,8 @@
 namespace quill::rtf {
 namespace {
 
-constexpr Offset kHexLength = 4;  // of \'hh
+// Whether a \'hh lacks digits.
+bool IsShort(const Token& token) { return token.end - token.begin < 4; }
 
 State FirstState() {
   State state;
@@ -50,9 +51,7 @@ Document TextReader::Read() {
   const FormatId endFormat = states_.Format();
   // A line feed that comes to stand behind one would be read together with it.
   if (!text_.IsWhole() || loneReturns_ > 0) Oddity();
-  Source source{std::move(bytes_), std::move(tables_.colours),
-                marks_.Take(),     text_.TakeSplitPairs(),
-                bodyEnd,           wellFormed_};
+  Source source{std::move(bytes_), std::move(tables_.colours), marks_.Take(), bodyEnd, wellFormed_};
   return Document(std::move(source), tables_.fonts.TakeFaces(), std::move(formats_),
                   text_.TakeText(), text_.TakeFormats(), text_.TakeOrigins(), endFormat);
 }
@@ -60,11 +59,9 @@ Document TextReader::Read() {
 // Returns false behind the end of the document's group.
 bool TextReader::Take(const Token& token) {
   if (skipNext_ && token.kind != Token::kIgnored && token.kind != Token::kOpen) {
-    // No group follows, and none may come to follow by a mark on a character that does.
+    // No group follows.
     skipNext_ = false;
     Oddity();
-    text_.ReachBack(alternativesAt_, token.begin);
-    if (token.kind != Token::kText && token.kind != Token::kHex) marks_.Other();
   }
   if (starred_ && token.kind != Token::kWord && token.kind != Token::kIgnored) Oddity();
   switch (token.kind) {
@@ -106,8 +103,6 @@ bool TextReader::TakeAsFallback(const Token& token) {
   if (token.kind == Token::kOpen || token.kind == Token::kClose) {
     fallbackLeft_ = 0;
     Oddity();
-    // With a character the writer sees to it that what stands in for it ends.
-    braceIsNeeded_ = !fallbackBelongs_;
     return false;
   }
   Offset end = token.end;
@@ -118,7 +113,7 @@ bool TextReader::TakeAsFallback(const Token& token) {
     lexer_.Seek(end);
   } else {
     --fallbackLeft_;
-    if (token.kind != Token::kHex) Oddity();
+    if (token.kind != Token::kHex || IsShort(token)) Oddity();
   }
   if (fallbackBelongs_) text_.ExtendUnicode(end);
   return true;
@@ -137,7 +132,7 @@ void TextReader::TakeText(const Token& token) {
 }
 
 void TextReader::TakeHex(const Token& token) {
-  if (token.end - token.begin < kHexLength) Oddity();
+  if (IsShort(token)) Oddity();
   if (token.number < 0) {
     // Among the bytes of a character it belongs to that.
     if (!text_.AwaitsByte()) marks_.Other();
@@ -203,6 +198,10 @@ void TextReader::TakeWord(const Token& token) {
   if (TakeCharacter(entry, token)) return;
   text_.WordComes();
   switch (entry.word) {
+    case Word::kData:
+      // Outside of pictures and what is skipped, it could be taken for words.
+      Oddity();
+      [[fallthrough]];
     case Word::kUnknown:
       marks_.Other();
       if (starred_ && starredHead_) SkipGroup();
@@ -293,7 +292,6 @@ void TextReader::Open(const Token& token) {
     return;
   }
   marks_.Open(token.begin, states_.Now().attributes);
-  if (std::exchange(braceIsNeeded_, false)) marks_.Other();
   states_.Open();
   groupOpen_ = token.begin;
   atHead_ = true;
@@ -304,7 +302,6 @@ bool TextReader::Close(const Token& token) {
   text_.Flush();
   atHead_ = false;
   starred_ = false;
-  if (std::exchange(braceIsNeeded_, false)) marks_.Other();
   marks_.Close(token.begin);
   // What is in force at the document's end stays, for what is typed there.
   if (states_.Depth() > 1) {

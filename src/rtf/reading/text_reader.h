@@ -72,16 +72,14 @@ class TextReader {
   Tables tables_;
   MarkGroupFinder marks_;
 
-  Offset groupOpen_ = 0;       // of the innermost group's brace, while atHead_
-  bool atHead_ = false;        // nothing but blanks stands behind the brace yet
-  bool starred_ = false;       // a \* stands in front
-  bool starredHead_ = false;   // and it is the first thing in its group
-  bool skipNext_ = false;      // the next group gives way to the one behind it
-  Offset alternativesAt_ = 0;  // where the word stands that says so
-  bool ended_ = false;         // the document's own group is closed
+  Offset groupOpen_ = 0;      // of the innermost group's brace, while atHead_
+  bool atHead_ = false;       // nothing but blanks stands behind the brace yet
+  bool starred_ = false;      // a \* stands in front
+  bool starredHead_ = false;  // and it is the first thing in its group
+  bool skipNext_ = false;     // the next group gives way to the one behind it
+  bool ended_ = false;        // the document's own group is closed
   bool wellFormed_ = true;
   std::uint32_t fallbackLeft_ = 0;
-  bool braceIsNeeded_ = false;  // the next brace ends what stands in for a \u that is no character
   bool fallbackBelongs_ = false;  // what is left over belongs to the last character
 
   bool headerEnded_ = false;

@@ -38,6 +38,7 @@ constexpr WordEntry kWords[] = {
     {"cocoatextscaling", Word::kHeader},
     {"cocoaplatform", Word::kHeader},
     {"uc", Word::kFallback},
+    {"bin", Word::kData},
 
     // Characters.
     {"par", Word::kParagraph},

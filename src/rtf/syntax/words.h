@@ -10,6 +10,7 @@ enum class Word : std::uint8_t {
   kUnknown,
   kKnown,   // formatting that the program does not show; its text is text all the same
   kHeader,  // may stand in front of the first table of a file
+  kData,    // \bin
   // Characters. The argument is the code point where it is not fixed.
   kCharacter,
   kParagraph,  // a paragraph end

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "rtf/syntax/ascii.h"
-#include "rtf/syntax/lexer.h"
 #include "text/large_pages.h"
 
 namespace quill::rtf {
@@ -12,28 +11,17 @@ namespace {
 
 constexpr std::string_view kLineEnds = "\r\n";
 
-bool IsLineEnd(char c) { return kLineEnds.find(c) != std::string_view::npos; }
-
 std::size_t BackslashesAtEnd(std::string_view bytes) {
   const std::size_t last = bytes.find_last_not_of('\\');
   return last == std::string_view::npos ? bytes.size() : bytes.size() - 1 - last;
 }
 
-// How the bytes end: in the letters of a control word, in its number, in a \'hh that lacks digits,
-// or otherwise.
-enum class Ending { kOther, kLetters, kNumber, kShortHex };
-
-bool EndsInShortHex(std::string_view bytes) {
-  if (!bytes.empty() && IsHexDigit(bytes.back())) bytes.remove_suffix(1);
-  if (bytes.empty() || bytes.back() != '\'') return false;
-  bytes.remove_suffix(1);
-  return BackslashesAtEnd(bytes) % 2 == 1;
-}
+// How the bytes end: in the letters of a control word, in its number, or otherwise.
+enum class Ending { kOther, kLetters, kNumber };
 
 Ending EndingOf(std::string_view bytes) {
   // No word is longer; a long run of letters is text.
   constexpr std::size_t kLongest = 300;
-  if (EndsInShortHex(bytes)) return Ending::kShortHex;
   const std::string_view tail = bytes.substr(bytes.size() - std::min(bytes.size(), kLongest));
   std::size_t at = tail.size();
   while (at > 0 && IsDigit(tail[at - 1])) --at;
@@ -44,14 +32,6 @@ Ending EndingOf(std::string_view bytes) {
   if (at == lettersEnd) return Ending::kOther;
   if (BackslashesAtEnd(tail.substr(0, at)) % 2 == 0) return Ending::kOther;
   return number ? Ending::kNumber : Ending::kLetters;
-}
-
-// Whether the bytes end in the data of a \bin, which may look like a word.
-bool EndsInData(std::string_view bytes) {
-  Lexer lexer(bytes);
-  Token last;
-  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) last = token;
-  return last.kind == Token::kWord && last.word == "bin" && last.number > 0;
 }
 
 }  // namespace
@@ -98,45 +78,24 @@ void PatchedCopy::SkipTo(Offset to) {
 
 void PatchedCopy::Append(std::string_view own) {
   if (own.empty()) return;
-  // A backslash with which a file breaks off takes a blank, not what is put behind it.
-  const bool dangling = at_ == source_.size() && BackslashesAtEnd(out_) % 2 == 1;
-  out_ += dangling ? " " : Separator(own.front());
+  out_ += Separator(own.front());
   out_ += own;
   seam_ = true;
 }
 
 // What must stand between the copy so far and a byte that comes next, so that these are not read
-// together: a control word is ended by a blank, a \'hh by a line end.
+// together: a control word is ended by a blank.
 std::string_view PatchedCopy::Separator(char next) const {
   if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return "";
-  const Ending ending = EndingOf(std::string_view(out_).substr(textEnd_));
-  if (ending == Ending::kOther || EndsInData(std::string_view(out_).substr(mark_))) return "";
-  switch (ending) {
+  switch (EndingOf(std::string_view(out_).substr(textEnd_))) {
     case Ending::kLetters:
       return " ";
     case Ending::kNumber:
       return IsDigit(next) || next == ' ' ? " " : "";
-    case Ending::kShortHex:
-      return IsHexDigit(next) ? "\n" : "";
     case Ending::kOther:
       return "";
   }
   return "";
-}
-
-bool PatchedCopy::IsBeforeBrace() const {
-  const std::size_t next = source_.find_first_not_of(kLineEnds, at_);
-  return next == std::string_view::npos || source_[next] == '{' || source_[next] == '}';
-}
-
-void PatchedCopy::EndLine() {
-  if (!out_.empty() && IsLineEnd(out_.back())) return;
-  const bool patched = nextPatch_ < patches_.size() && patches_[nextPatch_].begin <= at_;
-  if (!patched && at_ < source_.size() && IsLineEnd(source_[at_])) {
-    CopyBytes(at_ + 1);
-  } else {
-    Append("\n");
-  }
 }
 
 }  // namespace quill::rtf

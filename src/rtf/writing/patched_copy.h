@@ -33,13 +33,6 @@ class PatchedCopy {
   void Append(std::string_view own);
   // What stands last in the copy is text, even if it looks like a control word.
   void EndText() { textEnd_ = out_.size(); }
-  // Marks the end of the copy; whether a brace came behind the mark.
-  void Mark() { mark_ = out_.size(); }
-  bool HasBraceSinceMark() const { return out_.find_first_of("{}", mark_) != std::string::npos; }
-  // Whether a brace comes next in the source, or its end, line ends apart.
-  bool IsBeforeBrace() const;
-  // Makes the copy end in a line end, with the one that the source has here if there is one.
-  void EndLine();
   std::string Take() { return std::move(out_); }
 
  private:
@@ -51,7 +44,6 @@ class PatchedCopy {
   std::size_t nextPatch_ = 0;
   Offset at_ = 0;
   bool seam_ = false;        // what was appended last is not what stands in front of `at_`
-  std::size_t mark_ = 0;     // where a token begins
   std::size_t textEnd_ = 0;  // no control word of the copy begins in front of this
   std::string out_;
 };

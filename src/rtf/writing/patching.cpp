@@ -11,7 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "rtf/writing/character_bytes.h"
 #include "rtf/writing/colour_numbers.h"
 #include "rtf/writing/encode.h"
 #include "rtf/writing/mark_trees.h"
@@ -30,15 +29,7 @@ class Patcher {
  private:
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
   bool IsLoose(std::size_t character) const {
-    return IsChanged(character) || origins_.IsTyped(character) ||
-           (IsTyped(character + 1) && IsLooseObject(character));
-  }
-  // Whether an object takes what is put behind it for its data.
-  bool IsLooseObject(std::size_t character) const {
-    return bytesOf_.AreBareObject(character) || bytesOf_.OpenGroups(character) > 0;
-  }
-  bool IsTyped(std::size_t character) const {
-    return character < origins_.size() && origins_.IsTyped(character);
+    return IsChanged(character) || origins_.IsTyped(character);
   }
   const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
   bool HasChanged() const;
@@ -63,16 +54,17 @@ class Patcher {
   void EmitBytes(std::size_t character);
   void OpenWrap(std::size_t character, const Attributes& inForce);
   void CloseWrap();
-  void AppendBehind(std::size_t characters, std::string_view own);
-  void KeepApart(std::size_t characters, bool beforeOwn);
+  bool BreaksOffHere() const;
   void CopyInFront(std::size_t character, Offset to);
+  // Whether the bytes of a character are taken as they are, so that no control word reaches over
+  // their end. The last of them may look like a backslash.
+  bool EndsInText(std::size_t character) const;
   void EndCharacter(std::size_t character);
 
   const Document& document_;
   const Source& source_;
   const FormatNumbers& formatIds_;
   const OriginList& origins_;
-  const CharacterBytes bytesOf_;
   const MarkTrees trees_;
   std::vector<Attributes> targets_;  // of each format, as the file is to have it
   std::vector<char> changed_;        // whether that differs from what its place has
@@ -87,7 +79,6 @@ class Patcher {
     Attributes inForce;
     Attributes target;
     bool rightToLeft = false;
-    std::size_t end = 0;  // behind its last character
   };
   Wrap wrap_;
 };
@@ -97,7 +88,6 @@ Patcher::Patcher(const Document& document)
       source_(document.GetSource()),
       formatIds_(document.FormatIds()),
       origins_(document.Origins()),
-      bytesOf_(document),
       trees_(document),
       colours_(source_.colours),
       coloursRead_(source_.colours),
@@ -161,12 +151,11 @@ std::vector<Patch> Patcher::Patches() const {
   std::size_t kept = 0;  // characters in front of the cut
   for (const auto& [begin, end] : document_.Cuts()) {
     kept = origins_.FirstBehind(begin, kept);
-    Patch patch{begin, end, std::string(bytesOf_.Inside(begin)), false};
+    Patch patch{begin, end, "", false};
     if (!patches.empty() && patches.back().end == begin) {
       patch.behindText = patches.back().behindText;
     } else if (kept > 0) {
-      patch.behindText = bytesOf_.EndInText(kept - 1) && origins_[kept - 1].end() == begin;
-      if (bytesOf_.IsUnfinished(kept - 1)) patch.bytes.insert(0, "\n{}");
+      patch.behindText = EndsInText(kept - 1) && origins_[kept - 1].end() == begin;
     }
     patches.push_back(patch);
   }
@@ -259,7 +248,6 @@ void Patcher::EmitTree(const MarkTree& tree) {
         patcher.out_.CopyTo(group.content);
       } else {
         patcher.out_.SkipTo(group.content);
-        patcher.KeepApart(next, false);
       }
       kept.push_back(keep);
       inForce.push_back(keep ? inside : outside);
@@ -278,7 +266,6 @@ void Patcher::EmitTree(const MarkTree& tree) {
         patcher.out_.CopyTo(behind);
       } else {
         patcher.out_.SkipTo(behind);
-        patcher.KeepApart(next, false);
       }
       kept.pop_back();
       inForce.pop_back();
@@ -295,66 +282,39 @@ void Patcher::Emit(std::size_t character, const Attributes& inForce) {
   const Attributes& target = Target(character);
   const bool rightToLeft = IsRightToLeft(character);
   const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
-                      wrap_.rightToLeft == rightToLeft && origin.kind != Origin::kSplit &&
-                      out_.OnlyLineEndsUpTo(origin.begin);
+                      wrap_.rightToLeft == rightToLeft && out_.OnlyLineEndsUpTo(origin.begin);
   if (!goesOn) CloseWrap();
   CopyInFront(character, origin.begin);
-  if (origin.kind == Origin::kSplit && target != inForce)
-    out_.Append(bytesOf_.WordsInside(character));
   if (target != inForce && !goesOn) OpenWrap(character, inForce);
   EmitBytes(character);
   EndCharacter(character);
-  wrap_.end = character + 1;
 }
 
 void Patcher::EmitBytes(std::size_t character) {
   const Origin& origin = origins_[character];
-  // The halves of a split pair that is wrapped come together: the words stand in front.
-  const bool joined = origin.kind == Origin::kSplit && wrap_.open;
-  if (!origin.IsTyped() && !joined) {
-    const bool bare = bytesOf_.AreBareObject(character);
-    const std::size_t open = bytesOf_.OpenGroups(character);
-    if (bare) out_.Append("{");
-    out_.CopyTo(origin.end());
-    if (open > 0 && IsTyped(character + 1)) out_.Append(std::string(open, '}'));
-    if (bare && open == 0) out_.Append("}");
-    return;
-  }
-  KeepApart(character, true);
+  if (!origin.IsTyped()) return out_.CopyTo(origin.end());
   const CharacterLook& look = document_.Formats()[formatIds_[character]].look;
   std::string bytes;
   AppendCharacter(bytes, document_.Text()[character], look.fallback,
                   document_.Fonts()[look.font].symbol);
   out_.Append(bytes);
-  if (joined) out_.SkipTo(origin.end());
 }
 
 void Patcher::OpenWrap(std::size_t character, const Attributes& inForce) {
-  wrap_ = {true, inForce, Target(character), IsRightToLeft(character), character};
-  AppendBehind(character, "{" + WordsBetween(inForce, wrap_.target, wrap_.rightToLeft, colours_));
+  wrap_ = {true, inForce, Target(character), IsRightToLeft(character)};
+  out_.Append("{" + WordsBetween(inForce, wrap_.target, wrap_.rightToLeft, colours_));
 }
 
 void Patcher::CloseWrap() {
   if (!wrap_.open) return;
   wrap_.open = false;
-  // In an object that the file breaks off in, a brace would be lost.
-  if (!IsTyped(wrap_.end) && bytesOf_.OpenGroups(wrap_.end - 1) > 0) return;
-  AppendBehind(wrap_.end, "}");
+  if (!BreaksOffHere()) out_.Append("}");
 }
 
-// Appends words of our own behind so many characters. The first byte of a broken sequence would
-// take a brace or backslash for its second one; a line end, which is nothing, stands between.
-void Patcher::AppendBehind(std::size_t characters, std::string_view own) {
-  if (characters > 0 && document_.Text()[characters - 1] == kReplacement) out_.EndLine();
-  out_.Append(own);
-}
-
-// Where the copy stands behind so many characters and leaves out what the source has there, or is
-// about to put in text of its own: the last of them may be one that only a brace ends.
-void Patcher::KeepApart(std::size_t characters, bool beforeOwn) {
-  if (characters == 0 || !bytesOf_.IsUnfinished(characters - 1)) return;
-  if (out_.HasBraceSinceMark() || (!beforeOwn && out_.IsBeforeBrace())) return;
-  AppendBehind(characters, "{}");
+// Whether the source breaks off behind the character that was written last: its end ends whatever
+// group is open. In a picture, a brace would become part of that at every save.
+bool Patcher::BreaksOffHere() const {
+  return out_.At() == source_.bytes.size() && !origins_.IsTyped(origins_.size() - 1);
 }
 
 // Copies what stands in front of a character up to an offset.
@@ -370,8 +330,12 @@ void Patcher::CopyInFront(std::size_t character, Offset to) {
 }
 
 void Patcher::EndCharacter(std::size_t character) {
-  out_.Mark();
-  if (IsTyped(character) || bytesOf_.EndInText(character)) out_.EndText();
+  if (origins_.IsTyped(character) || EndsInText(character)) out_.EndText();
+}
+
+bool Patcher::EndsInText(std::size_t character) const {
+  const std::string_view bytes = document_.BytesOf(static_cast<Position>(character));
+  return !bytes.empty() && bytes[0] != '\\' && bytes[0] != '{';
 }
 
 }  // namespace
