@@ -11,6 +11,7 @@
 #include "window/page/page_layout.h"
 #include "window/shared/edit_widgets.h"
 #include "window/shared/shown.h"
+#include "window/text/reveal.h"
 #include "workbench/form1.h"
 
 namespace quill {
@@ -99,25 +100,6 @@ QRect DocumentView::PlaceOf(Range range) const {
   return {0, both.top(), viewport()->width(), height};
 }
 
-std::vector<DocumentView::Band> DocumentView::FreeBands(const QRect& place) const {
-  std::vector<Band> bands{{0, viewport()->height()}};
-  for (const QRect& cover : Covers()) {
-    if (cover.left() > place.right() || cover.right() < place.left()) continue;
-    std::vector<Band> left;
-    for (const Band& band : bands) {
-      left.push_back({band.top, std::min(band.bottom, cover.top())});
-      left.push_back({std::max(band.top, cover.bottom() + 1), band.bottom});
-    }
-    bands = std::move(left);
-  }
-  bands.erase(std::remove_if(bands.begin(), bands.end(),
-                             [&](const Band& band) { return band.Height() < place.height(); }),
-              bands.end());
-  std::sort(bands.begin(), bands.end(),
-            [](const Band& a, const Band& b) { return a.Height() > b.Height(); });
-  return bands;
-}
-
 std::vector<QRect> DocumentView::Covers() const {
   std::vector<QRect> covers;
   const QObjectList& stack = parent()->children();
@@ -133,25 +115,16 @@ std::vector<QRect> DocumentView::Covers() const {
 
 void DocumentView::Reveal(Range range) {
   const QRect place = PlaceOf(range);
-  const std::vector<Band> bands = FreeBands(place);
-  QScrollBar& bar = *verticalScrollBar();
+  const int viewHeight = viewport()->height();
+  const std::vector<Band> bands = FreeBands(place, Covers(), viewHeight);
   const int around = 3 * cursorRect(CursorAt({range.begin, range.begin})).height();
-  const auto holds = [&](const Band& band) {
-    const int margin = std::min(around, (band.Height() - place.height()) / 3);
-    const bool atTheStart = bar.value() == 0 && band.top == 0;
-    return place.top() >= band.top + (atTheStart ? 0 : margin) &&
-           place.bottom() < band.bottom - margin;
-  };
-  if (std::any_of(bands.begin(), bands.end(), holds)) return;
-  for (const Band& band : bands) {
-    const int room = band.Height() - place.height();
-    const int value = bar.value() + place.top() - band.top - room / 3;
-    if (value < 0 && bands.size() > 1 && band.top > 0) continue;
-    // The end of the text may have to leave the bottom, to come out from under a panel.
-    if (bands.size() > 1) PageLayout::Of(*document()).ReachTo(value + viewport()->height());
-    bar.setValue(value);
-    return;
-  }
+  QScrollBar& bar = *verticalScrollBar();
+  const std::optional<int> by = ScrollToSee(place, bands, around, bar.value());
+  if (!by) return;
+  const int value = bar.value() + *by;
+  // The end of the text may have to leave the bottom, to come out from under a panel.
+  if (bands.size() > 1) PageLayout::Of(*document()).ReachTo(value + viewHeight);
+  bar.setValue(value);
 }
 
 // --- The caret -------------------------------------------------------------------------------

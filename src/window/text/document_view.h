@@ -59,19 +59,10 @@ class DocumentView final : public QTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
-  // A stretch of the viewport's height; the bottom does not belong to it.
-  struct Band {
-    int top = 0;
-    int bottom = 0;
-    int Height() const { return bottom - top; }
-  };
-
   // Where a range is drawn, in the viewport's coordinates.
   QRect PlaceOf(Range range) const;
   // What lies over the text, in the viewport's coordinates.
   std::vector<QRect> Covers() const;
-  // The bands with room for a place that nothing covers over its width, the highest first.
-  std::vector<Band> FreeBands(const QRect& place) const;
 
   // All of these run one action of the user; the text takes the focus.
   void ReportSelection();
