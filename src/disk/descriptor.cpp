@@ -13,7 +13,7 @@
 namespace quill {
 namespace {
 
-// A system call, again as long as a signal interrupts it.
+// Repeats a system call while signals interrupt it.
 template <class Call>
 auto Uninterrupted(Call call) {
   auto result = call();
@@ -22,7 +22,7 @@ auto Uninterrupted(Call call) {
 }
 
 int Open(const std::string& path, int flags, mode_t mode) {
-  // The system would take the part in front of a NUL for the name.
+  // The system would end the name at a NUL.
   if (path.find('\0') != std::string::npos) {
     errno = EINVAL;
     return -1;
@@ -63,7 +63,7 @@ struct stat Descriptor::OrdinaryStatus() const {
 std::string Descriptor::ReadAll(std::size_t most) const {
   const auto expected = static_cast<std::size_t>(std::max<off_t>(Status().st_size, 0));
   if (expected > most) FailDisk(name_, "read", "it is too large");
-  // One byte of room more than expected tells the file's end without another step.
+  // One byte more than expected: the end of the file then shows without another step.
   std::string bytes;
   bytes.reserve(expected + 1);
   UseLargePages(bytes.data(), expected);
@@ -103,8 +103,8 @@ std::string FolderPart(const std::string& path) { return path.substr(0, path.rfi
 void FlushFolderOf(const std::string& path) {
   const std::string part = FolderPart(path);
   const Descriptor folder(part.empty() ? "." : part, O_RDONLY | O_DIRECTORY);
-  // A folder that may be written but not read, and a file system that flushes no folders, leave
-  // nothing to do.
+  // Nothing can be done for a folder that may be written but not read, or on a file system that
+  // does not flush folders.
   if (!folder.IsOpen() && errno == EACCES) return;
   if (folder.IsOpen() && Uninterrupted([&] { return fsync(folder.Number()); }) == 0) return;
   if (errno != EINVAL && errno != EOPNOTSUPP && errno != EBADF) {

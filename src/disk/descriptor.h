@@ -10,13 +10,13 @@
 
 namespace quill {
 
-// Throws StatementFailed: "PATH could not be WHAT: REASON". Without a reason, errno's is given.
+// Throws StatementFailed: "PATH could not be WHAT: REASON". The default reason is errno's.
 [[noreturn]] void FailDisk(const std::string& path, const char* what);
 [[noreturn]] void FailDisk(const std::string& path, const char* what, const char* reason);
 
 class Descriptor {
  public:
-  // May fail to open, see IsOpen; errno then has the reason. Never waits for the other end of a
+  // Opening may fail: see IsOpen. errno then has the reason. Never waits for the other end of a
   // pipe. Later failures are reported under `name`, or under the path if that is empty.
   Descriptor(const std::string& path, int flags, mode_t mode = 0, const std::string& name = {});
   Descriptor(const Descriptor&) = delete;
@@ -41,7 +41,7 @@ class Descriptor {
   int number_;
 };
 
-// Whether both are of the same file.
+// Whether both describe the same file.
 bool IsSameFile(const struct stat& left, const struct stat& right);
 
 // "a/" of "a/b", "" of "b".

@@ -24,8 +24,8 @@ class Disk {
   // Appends a line and CR LF. Creates a missing file; first completes a last line that has no line
   // end.
   virtual void AppendLine(const std::string& path, std::string_view line) = 0;
-  // Creates an empty file if there is none. An existing file is left alone; it may be
-  // write-protected, but must be readable.
+  // Creates an empty file if none exists. An existing file is left alone; it may be write-protected
+  // but must be readable.
   virtual void CreateIfMissing(const std::string& path) = 0;
 };
 

@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t kMostBytes = 0xFFFFFFFFU;
 constexpr std::string_view kLineEnd = "\r\n";
 
-// The status of the file that stands at the path; nothing where there is none.
+// The status of the file at the path, if any.
 std::optional<struct stat> StatusAt(const std::string& path) {
   struct stat status = {};
   if (lstat(path.c_str(), &status) == 0) return status;
@@ -28,7 +28,8 @@ std::optional<struct stat> StatusAt(const std::string& path) {
   return std::nullopt;
 }
 
-// The status of an ordinary file that may be written, or nothing where there is none.
+// The status of the file at the target, if any. Fails unless it is a regular file that may be
+// written.
 std::optional<struct stat> WritableAt(const std::string& target, const std::string& path) {
   const std::optional<struct stat> status = StatusAt(target);
   if (!status) return std::nullopt;
@@ -37,7 +38,7 @@ std::optional<struct stat> WritableAt(const std::string& target, const std::stri
   return status;
 }
 
-// Lays a copy of the content beside the target and returns its path.
+// Puts a copy of the content beside the target and returns its path.
 std::string KeepBeside(const std::string& target, const struct stat& old, std::string_view bytes) {
   constexpr int kMostCopies = 10000;
   Replacement copy(target, true);
@@ -50,19 +51,19 @@ std::string KeepBeside(const std::string& target, const struct stat& old, std::s
   FailDisk(target, "kept", "there are too many older copies of it");
 }
 
-// Makes an empty file unless one is there.
+// Creates an empty file unless one exists.
 void Make(const std::string& path) {
   const Descriptor file(path, O_RDWR | O_CREAT, 0666);
   if (!file.IsOpen()) FailDisk(path, "made");
   FlushFolderOf(TargetOf(path));
 }
 
-// Whether a file may not be opened for writing, while it may still be there to be read.
+// Whether the error means that a file may not be opened for writing; it may still be readable.
 bool IsWriteProtection(int reason) {
   return reason == EACCES || reason == EPERM || reason == EROFS;
 }
 
-// Reserves room behind the file's end, so that a full disk shows before anything is written.
+// Reserves room after the end of the file, so that a full disk shows before anything is written.
 void ReserveRoom(const Descriptor& file, const std::string& path, off_t at, std::size_t length) {
 #ifdef __linux__
   const auto room = static_cast<off_t>(length);
@@ -74,7 +75,7 @@ void ReserveRoom(const Descriptor& file, const std::string& path, off_t at, std:
 #endif
 }
 
-// Whether the file's last line lacks its line end. A byte order mark alone is no line.
+// Whether the last line of the file lacks its line end. A byte order mark alone is not a line.
 bool LacksLineEnd(const Descriptor& file, const std::string& path, off_t size) {
   std::array<char, kByteOrderMark.size()> end{};
   const off_t length = std::min<off_t>(size, end.size());
@@ -84,7 +85,7 @@ bool LacksLineEnd(const Descriptor& file, const std::string& path, off_t size) {
   return !last.empty() && !isMark && last.back() != '\n' && last.back() != '\r';
 }
 
-// Takes back what a failed write left of a line, unless others have written behind it.
+// Removes what a failed write left of a line, unless another program has written after it.
 void TakeBack(const Descriptor& file, off_t oldSize, ssize_t written) {
   const off_t reached = oldSize + (written > 0 ? written : 0);
   if (file.Status().st_size != reached) return;

@@ -12,13 +12,13 @@
 namespace quill {
 namespace {
 
-// Whether the lock is ours. Where the file system has no locks, it counts as ours.
+// Whether the lock is ours. On a file system without locks it counts as ours.
 bool Lock(const Descriptor& file) {
   return flock(file.Number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
-// The path for the temporary file, with what a crash left there removed. A file that another
-// program is writing at this moment stays.
+// The path for the temporary file, after removing what a crash left there. A file that another
+// program is writing right now stays.
 std::string ClearedPath(const std::string& target) {
   std::string path = TemporaryPath(target);
   const Descriptor stale(path, O_RDWR | O_NOFOLLOW);
@@ -30,13 +30,14 @@ std::string ClearedPath(const std::string& target) {
   return path;
 }
 
-// Renames a file unless the other name is taken; where it is, errno is EEXIST.
+// Renames a file unless the new name is taken; if it is, errno is EEXIST.
 int RenameToFree(const std::string& from, const std::string& to) {
 #ifdef __linux__
   const int result = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
   if (result == 0 || (errno != EINVAL && errno != ENOSYS)) return result;
 #endif
-  // Not every file system can; another program could take the name between the two calls.
+  // Not every file system can do this. On one that cannot, another program may take the name
+  // between these two calls.
   struct stat there = {};
   if (lstat(to.c_str(), &there) == 0) {
     errno = EEXIST;
@@ -45,7 +46,7 @@ int RenameToFree(const std::string& from, const std::string& to) {
   return errno == ENOENT ? rename(from.c_str(), to.c_str()) : -1;
 }
 
-// What a link holds; nothing where the path is no link.
+// The content of a link; empty if the path is not a link.
 std::string LinkText(const std::string& path) {
   std::array<char, PATH_MAX> text{};
   const ssize_t length = readlink(path.c_str(), text.data(), text.size());
@@ -54,7 +55,7 @@ std::string LinkText(const std::string& path) {
 
 }  // namespace
 
-// The name is cut where it would grow beyond what a file system takes.
+// The name is cut where it would be too long for a file system.
 std::string TemporaryPath(const std::string& target) {
   constexpr std::string_view kEnding = ".quill-saving";
   const std::string folder = FolderPart(target);
@@ -80,7 +81,7 @@ Replacement::Replacement(const std::string& target, bool restricted, Flushing fl
       file_(path_, O_WRONLY | O_CREAT | O_EXCL, restricted ? 0600 : 0666, target),
       flushing_(flushing) {
   if (!file_.IsOpen()) FailDisk(target_, "written");
-  // Between making and locking, another program may have taken the file for a stale one.
+  // Between creating and locking, another program may have taken the file for a stale one.
   struct stat there = {};
   const bool ours =
       Lock(file_) && lstat(path_.c_str(), &there) == 0 && IsSameFile(there, file_.Status());
@@ -99,11 +100,11 @@ void Replacement::Fill(std::string_view bytes) const {
 void Replacement::TakePermissionsOf(const struct stat& old) const {
   const struct stat fresh = file_.Status();
   const auto sameUser = static_cast<uid_t>(-1);
-  // Who may not give a file away may still give it to another group of their own.
+  // A user who may not give a file away may still give it to another of their groups.
   const bool owned = (old.st_uid == fresh.st_uid && old.st_gid == fresh.st_gid) ||
                      fchown(file_.Number(), old.st_uid, old.st_gid) == 0 ||
                      fchown(file_.Number(), sameUser, old.st_gid) == 0;
-  // A program that runs as its owner must not run as another one.
+  // Without the set-ID bits: a program that runs as its owner must not run as another one.
   const mode_t kept = owned ? 07777 : 0777;
   if (((file_.Status().st_mode ^ old.st_mode) & kept) == 0) return;
   if (fchmod(file_.Number(), old.st_mode & kept) != 0) FailDisk(target_, "given its permissions");

@@ -14,10 +14,10 @@ std::string TargetOf(const std::string& path);
 // The path of the temporary file for a target.
 std::string TemporaryPath(const std::string& target);
 
-// Whether what is written must survive a power cut, or only the end of the program.
+// Whether what is written must survive a power cut or only the end of the program.
 enum class Flushing { kToDisk, kNone };
 
-// Created in the target's folder and locked. Removed on destruction unless it was put in place.
+// Created in the target's folder and locked. Removed on destruction unless put in place.
 class Replacement {
  public:
   // With `restricted`, no other user may read it until its permissions are set.
@@ -26,13 +26,13 @@ class Replacement {
   Replacement& operator=(const Replacement&) = delete;
   ~Replacement();
 
-  // Writes and flushes, as told.
+  // Writes, and flushes if asked to.
   void Fill(std::string_view bytes) const;
   void TakePermissionsOf(const struct stat& old) const;
-  // Renames it over the target and flushes the folder, as told.
+  // Renames it over the target, and flushes the folder if asked to.
   void PutInPlace();
-  // Renames it to `freePath`, in the target's folder, instead, and flushes the folder. Returns
-  // false, with nothing changed, if that name is taken.
+  // Renames it to `freePath`, in the target's folder, instead, and flushes the folder if asked to.
+  // Returns false, with nothing changed, if that name is taken.
   bool PutUnder(const std::string& freePath);
 
  private:

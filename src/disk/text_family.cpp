@@ -5,7 +5,7 @@
 namespace quill {
 namespace {
 
-// Nothing of a path that has no more than four characters.
+// Empty for a path of four characters or fewer.
 std::u32string BaseOf(const std::u32string& path) {
   constexpr std::size_t kCut = 4;
   return path.substr(0, path.size() - std::min(path.size(), kCut));
