@@ -12,7 +12,7 @@ constexpr char32_t kLastCharacter = 0x10FFFF;
 
 using Folding = std::pair<char32_t, char32_t>;  // the folded character, and one that folds to it
 
-// Those that do not fold to themselves, some 1,500, by the folded character.
+// The characters that do not fold to themselves, some 1,500, sorted by the folded character.
 const std::vector<Folding>& Foldings() {
   static const std::vector<Folding> foldings = [] {
     std::vector<Folding> found;

@@ -11,7 +11,7 @@ namespace quill {
 char32_t FoldCase(char32_t character);
 std::u32string FoldCase(std::u32string_view text);
 
-// All characters that fold to a folded one, itself first.
+// All characters that fold to `folded`, itself first.
 std::vector<char32_t> CaseVariants(char32_t folded);
 
 }  // namespace quill

@@ -21,7 +21,7 @@ Position FindFormat(const FormatNumbers& ids, Range range, Wanted wanted) {
   return range.end;
 }
 
-// Behind the last of the ranges, as part of it where they touch.
+// Adds a range after the last one, merging the two if they touch.
 void AddTo(std::vector<Range>& ranges, Range range) {
   if (!ranges.empty() && ranges.back().end == range.begin) {
     ranges.back().end = range.end;
@@ -75,7 +75,8 @@ std::vector<Range> Document::Apply(const std::vector<Range>& ranges,
                                    const AttributeChange& change) {
   std::vector<Range> changed;
   changed.reserve(ranges.size());
-  // The new number of every format met so far. Those that come of the change are not met again.
+  // The new number of each format met so far. Formats that result from the change are not met
+  // again.
   std::vector<FormatId> renamed(formats_.Size(), kUnknown);
   const auto renaming = [&](FormatId old) {
     if (renamed[old] == kUnknown) {
@@ -107,8 +108,8 @@ Document::Place Document::PlaceFor(Range range) const {
   }
   const Position at = range.begin;
   if (Length() == 0) return {source_.bodyEnd, endFormat_};
-  // Behind a paragraph's or a cell's end stand the words that set up what follows: typed text goes
-  // behind them, in front of the next character.
+  // The end of a paragraph or cell is followed by the words that set up the next one: typed text
+  // goes after them, before the next character.
   const bool opens =
       at == 0 || text_[Index(at - 1)] == kParagraphEnd || EndsCell(origins_[Index(at - 1)]);
   if (opens && at < Length()) return {origins_[Index(at)].begin, formatIds_[Index(at)]};
@@ -163,7 +164,7 @@ Position Document::RowBegin(Position rowEnd) const {
 }
 
 bool Document::CanDelete(Range range) const {
-  // Rows are taken from the back: whatever cell ends lie outside a whole row may not go.
+  // Skips whole rows, from the back; a cell end outside one must stay.
   Position at = range.end;
   while (at > range.begin) {
     const Origin origin = origins_[Index(at - 1)];

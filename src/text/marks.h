@@ -1,7 +1,8 @@
 // What the colours of a text mean, and the two kinds of temporal operator.
 //
 // A mark is the colour of its characters, together with their weight and raised position; no other
-// record of it exists. So a colour is compared exactly, and one that is not listed here is no mark.
+// record of it exists. So colours are compared exactly, and one that is not listed here is not a
+// mark.
 #pragma once
 
 #include <optional>
@@ -17,15 +18,15 @@ enum class OperatorKind { kA, kB };
 
 inline constexpr Colour kPlain = RGB(0, 0, 0);
 inline constexpr Colour kMarkedA = RGB(0, 0, 255);
-// By automatic parsing. The walk from mark to mark passes over it.
+// Found by automatic parsing. The walk from mark to mark skips it.
 inline constexpr Colour kFoundA = RGB(128, 128, 255);
-// Marked and found alike.
+// Both marked and found.
 inline constexpr Colour kMarkedB = RGB(255, 0, 0);
-// A hit, while the user is asked whether to mark it.
+// A hit while the user is asked whether to mark it.
 inline constexpr Colour kAskedAbout = RGB(192, 0, 192);
-// The line of a tag that is not filled in; never in the text.
+// The line of a tag that is not filled in yet; never in the text.
 inline constexpr Colour kNotFilledIn = RGB(255, 0, 255);
-// Behind a lemma that has no kind; one that has is on FoundColour.
+// The background of a lemma without a kind; with a kind, it is FoundColour.
 inline constexpr Colour kNoLemmaKind = RGB(255, 255, 255);
 
 // How far above the baseline a tagged term stands.

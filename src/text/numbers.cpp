@@ -24,7 +24,8 @@ double Val(std::u32string_view text) {
     point = point || firstPoint;
     number += static_cast<char>(c);
   }
-  // A sign or a point alone reads as 0, as does nothing; the locale of the C library is never set.
+  // A lone sign or point reads as 0, and so does an empty text. The C library's locale is never
+  // set.
   return std::strtod(number.c_str(), nullptr) + 0.0;
 }
 

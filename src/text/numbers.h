@@ -11,7 +11,7 @@ namespace quill {
 // point, no exponent. Blanks, tabs and line ends are ignored wherever they are.
 double Val(std::u32string_view text);
 
-// Nothing unless the text is one or more ASCII digits and nothing else.
+// The number, if the text consists of one or more ASCII digits and nothing else.
 std::optional<double> NumberFromDigits(std::u32string_view text);
 
 // Whole numbers without a decimal point, others in their shortest form.

@@ -30,7 +30,7 @@ bool OriginList::HasTyped() const {
   return size() > 0 && std::memchr(shapes_.data(), 0, size()) != nullptr;
 }
 
-// It is looked for in steps that double, as it is near where searches go on from each other.
+// Searches in steps that double, because each search usually starts near its answer.
 std::size_t OriginList::FirstBehind(Offset offset, std::size_t from) const {
   if (from == size() || begins_[from] > offset) return from;
   std::size_t step = 1;

@@ -1,7 +1,8 @@
 // The origin of each character.
 //
-// Two arrays: where its bytes begin, and one byte for how many they are and of which kind. Few
-// characters have more bytes than that can tell (pictures do): their lengths stand in a list apart.
+// Two arrays: where the character's bytes begin, and one byte for their number and kind. Few
+// characters (pictures, for instance) have more bytes than that can hold; their lengths are in a
+// separate list.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +16,7 @@ namespace quill {
 class OriginList {
  public:
   OriginList() = default;
-  // That many typed characters at the source's begin.
+  // That many typed characters at the start of the source.
   explicit OriginList(std::size_t typed) : begins_(typed), shapes_(typed) {}
 
   std::size_t size() const { return begins_.size(); }
@@ -27,27 +28,27 @@ class OriginList {
   }
   bool IsTyped(std::size_t at) const { return shapes_[at] == 0; }
   bool HasTyped() const;
-  // The first character from `from` on whose bytes begin behind an offset; their number where there
-  // is none. It is quick where that is near.
+  // The first character from `from` on whose bytes begin after an offset; the number of characters
+  // if there is none. Quick if the answer is near `from`.
   std::size_t FirstBehind(Offset offset, std::size_t from) const;
 
-  // Origins of a source never overlap and are in its order.
+  // Origins never overlap and are in the order of the source.
   void Append(const Origin& origin);
-  // Characters of a byte each.
+  // Appends characters of one byte each.
   void AppendBytes(std::size_t count, Offset begin);
-  // The last character reaches to `end`.
+  // Extends the last character to `end`.
   void ExtendLast(Offset end);
   void Replace(std::size_t first, std::size_t last, const OriginList& origins);
 
-  // Room for that many; what stays unused takes no memory.
+  // Reserves room for that many; room that stays unused takes no memory.
   void Reserve(std::size_t count);
-  // So many are likely to come.
+  // Announces that about that many will be appended.
   void Expect(std::size_t count) const;
 
  private:
   static constexpr unsigned kKindShift = 6;
   static constexpr std::uint32_t kLengthMask = 0x3F;
-  static constexpr std::uint32_t kLong = 0x3F;  // this length or a greater one, told by long_
+  static constexpr std::uint32_t kLong = 0x3F;  // this length or a greater one: see long_
 
   struct Long {
     Offset begin = 0;
@@ -59,7 +60,7 @@ class OriginList {
 
   std::vector<Offset> begins_;
   std::vector<std::uint8_t> shapes_;
-  std::vector<Long> long_;  // in order; those of deleted characters stay
+  std::vector<Long> long_;  // in order; entries of deleted characters stay
 };
 
 }  // namespace quill

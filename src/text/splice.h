@@ -7,7 +7,7 @@
 
 namespace quill {
 
-// Puts items in place of those in [first, last). What stands behind is moved once.
+// Puts items in place of those in [first, last). What follows is moved once.
 template <class T>
 void Splice(std::vector<T>& into, std::size_t first, std::size_t last,
             const std::vector<T>& items) {

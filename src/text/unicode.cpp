@@ -7,14 +7,14 @@
 namespace quill {
 namespace {
 
-// The length of the well-formed UTF-8 sequence at the head of the bytes; 0 where there is none.
+// The length of the well-formed UTF-8 sequence at the start of the bytes; 0 if there is none.
 std::size_t SequenceLength(std::string_view bytes) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   const unsigned lead = byte(0);
   if (lead < 0x80) return 1;
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
   if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
-  // The second byte keeps out overlong forms, surrogates and what lies beyond U+10FFFF.
+  // The range of the second byte excludes overlong forms, surrogates and values beyond U+10FFFF.
   const unsigned lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
   const unsigned highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
   if (byte(1) < lowest || byte(1) > highest) return 0;
@@ -54,7 +54,7 @@ void Encode(char32_t c, std::string& to) {
 
 bool IsCharacter(char32_t c) { return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF); }
 
-// Decodes; what a byte outside every sequence becomes is the caller's.
+// Decodes; the caller decides what a byte outside every sequence becomes.
 template <class StrayByte>
 std::u32string DecodeWith(std::string_view bytes, StrayByte stray) {
   std::u32string text;
