@@ -1,6 +1,6 @@
 // The window as it is stored: every control with its kind, container, place and first values.
 //
-// No handler changes a place, a font or a tool tip: they are read from here once. Places are in
+// No handler changes a place, font or tool tip, so these are read from here once. Places are in
 // twips (1/1440 inch; 15 to a pixel at 96 dots an inch), relative to the container's top left
 // corner.
 #pragma once
@@ -27,7 +27,7 @@ enum class Kind : std::uint8_t {
   kFileDialog,
 };
 
-// A colour of the window system's palette, marked by the highest bit.
+// A colour of the window system's palette; the highest bit says so.
 constexpr Colour SystemColour(unsigned number) { return 0x80000000U | number; }
 constexpr bool IsSystemColour(Colour colour) { return (colour & 0x80000000U) != 0; }
 
@@ -46,15 +46,15 @@ struct Place {
   int height = 0;
 };
 
-// What becomes of a place where the window is larger or smaller than stored.
+// How a place changes when the window is larger or smaller than stored.
 enum class ByWindow : std::uint8_t {
   kStays,
-  kGrows,       // takes what the window gains in both directions
-  kKeepsRight,  // stays at the right edge and takes what the window gains in height
+  kGrows,       // grows with the window in both directions
+  kKeepsRight,  // stays at the right edge and grows with the window's height
   kMovesDown,
 };
 
-// Stored properties other than caption and place. Those that a row omits have these defaults.
+// Stored properties other than caption and place, with the defaults for those that a row omits.
 struct Stored {
   bool enabled = true;
   bool visible = true;
@@ -67,11 +67,11 @@ struct Stored {
   bool tabStop = true;
   bool centred = false;
   bool bold = false;
-  double points = 0;  // font size where it is stored, else 0
+  double points = 0;  // font size; 0 if none is stored
   std::u32string_view toolTip = {};
   ByWindow byWindow = ByWindow::kStays;
-  // What assistive technology calls the control, where it is not its caption, and what the control
-  // is for, where no tool tip says so.
+  // The control's name for assistive technology, if it is not the caption, and its purpose, if no
+  // tool tip gives it.
   std::u32string_view spoken = {};
   std::u32string_view purpose = {};
 };
@@ -97,7 +97,7 @@ struct ModeRow {
   enum : int { kAbsolute = 1, kRelative = 2 };
 };
 
-// The rows of a combo box's list at start.
+// The rows of a combo box's list at startup.
 std::span<const std::u32string_view> ComboRows(std::string_view name);
 
 }  // namespace quill

@@ -6,9 +6,9 @@
 
 namespace quill {
 
-// A text's place in the order of the user's locale (LC_ALL, LC_COLLATE or LANG, the first that is
-// set; the root order where that is C or POSIX), as the process found it at its first call. Keys
-// compare as strings of bytes; texts that collate alike have equal keys.
+// The sort key of a text in the user's locale (the first of LC_ALL, LC_COLLATE and LANG that is
+// set; the root order if that is C or POSIX), which is read once, at the first call. Keys compare
+// as byte strings; texts that collate alike have equal keys.
 std::string CollationKey(std::u32string_view text);
 
 }  // namespace quill

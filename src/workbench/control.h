@@ -1,7 +1,8 @@
 // The kinds of control: what each offers to the handlers, and the events that it raises.
 //
-// A control is part of its form and lives as long. It takes its stored values from the catalogue,
-// by name. Event slots hold the handlers that the program attaches; an empty slot raises nothing.
+// A control is a member of its form and lives as long. It takes its stored values from the
+// catalogue, by name. Event slots hold the handlers that the program attaches; an empty slot raises
+// nothing.
 #pragma once
 
 #include <cstddef>
@@ -29,7 +30,7 @@ class Control {
   const CatalogueRow& Row() const { return row_; }
   Form1& Form() const { return form_; }
 
-  // Whether the user can reach it: it and all its containers are enabled and visible.
+  // Whether the user can reach it: whether it and all its containers are enabled and visible.
   bool IsInReach() const;
   // Moves the keyboard focus here on behalf of a handler; a GotFocus that this raises runs after
   // that handler. A control out of reach takes no focus.
@@ -94,10 +95,10 @@ class ListBox : public Control {
 
   ListBox(Form1& form, std::string_view name);
 
-  // Appends or, in a sorted list, inserts behind the items that compare equal. Fails if the list is
-  // full. ListIndex keeps its number, whatever item that now is.
+  // Appends or, in a sorted list, inserts after the items that compare equal. Fails if the list is
+  // full. ListIndex keeps its number, whichever item that now is.
   void AddItem(std::u32string_view text);
-  // As AddItem for each in turn, at one cost; those that a full list has no room for are left out.
+  // As AddItem for each in turn, at one cost; those for which a full list has no room are left out.
   void AddItems(const std::vector<std::u32string>& texts);
   // Fails outside the list.
   void RemoveItem(int i);
@@ -111,8 +112,8 @@ class ListBox : public Control {
   Accessor<ListBox, &ListBox::ReadListIndex, &ListBox::WriteListIndex> ListIndex{*this};
 
   Handler Click = nullptr;
-  // The user clicks on an item, which must exist: it is selected and Click runs, even if it was
-  // selected already.
+  // The user clicks an item, which must exist: it is selected and Click runs, even if it was
+  // already selected.
   void ClickItem(int i);
 
  private:
@@ -154,7 +155,7 @@ class CommonDialog : public Control {
 
   std::u32string DialogTitle;
   std::u32string Filter;
-  std::u32string FileName;  // empty after a cancel, and at the start
+  std::u32string FileName;  // empty at first and after a cancel
 
   void ShowOpen();
   void ShowSave();

@@ -1,5 +1,5 @@
-// The dialogs through which the program asks its user. WindowDialogs are the real ones; tests,
-// scenarios and benchmarks have others.
+// The dialogs in which the program asks the user. WindowDialogs has the real ones; tests, scenarios
+// and benchmarks have others.
 #pragma once
 
 #include <optional>

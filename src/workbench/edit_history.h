@@ -9,7 +9,7 @@
 namespace quill {
 
 // One edit: it put `inserted` characters at `at`, in place of the cells. (Once it is undone, the
-// cells are the characters that it had put there.)
+// cells are the characters that it had inserted.)
 struct Edit {
   Position at = 0;
   Position inserted = 0;

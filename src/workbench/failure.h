@@ -8,8 +8,8 @@
 
 namespace quill {
 
-// "Carry on": abandons the statement, or the procedure it calls, where it fails, and goes on with
-// the next.
+// "Carry on": abandons the statement, or the procedure that it calls, at the point of failure and
+// continues with the next.
 template <class Statement>
 void CarryOn(Statement&& statement) {
   try {
@@ -18,7 +18,7 @@ void CarryOn(Statement&& statement) {
   }
 }
 
-// "Leave": ends the handler silently at the first failure. What it has done stands.
+// "Leave": ends the handler silently at the first failure. What it has done so far remains.
 template <class Handler>
 void LeaveOnFailure(Handler&& handler) {
   CarryOn(std::forward<Handler>(handler));

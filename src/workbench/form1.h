@@ -1,4 +1,4 @@
-// The one window: its controls, the record of working state, the keyboard focus and what is
+// The one window: its controls, the record of working state, the keyboard focus, and whatever is
 // deferred until the running handler ends.
 #pragma once
 
@@ -128,7 +128,7 @@ class Form1 : public Control {
   const std::vector<Control*>& Controls() const { return controls_; }
   // nullptr for an unknown name.
   Control* Find(std::string_view name) const;
-  // The control that contains it; the form for one that lies directly in the window.
+  // The control that contains it; the form if it lies directly in the window.
   Control& ContainerOf(const Control& control) const;
 
   Dialogs& TheDialogs() const { return dialogs_; }
@@ -136,18 +136,18 @@ class Form1 : public Control {
 
   // Returns the button pressed.
   Button MsgBox(const MessageBox& box);
-  // Queues keystrokes for whichever control has the focus once the running handler has ended. Every
+  // Queues keystrokes for whichever control has the focus when the running handler has ended. Every
   // character arrives as itself.
   void SendKeys(std::u32string_view text) { keys_.append(text); }
   // Ends the program at once.
   [[noreturn]] void End() { throw ProgramEnd(); }
 
-  // The control with the keyboard focus; nullptr before the first.
+  // The control with the keyboard focus; nullptr until one has had it.
   Control* Focus() const { return focus_; }
   // Moves the focus without raising anything. Returns whether it moved.
   bool MoveFocus(Control& control);
 
-  // What was deferred until the running handler ends, for the program to deliver.
+  // Events deferred until the running handler ends, for the program to deliver.
   std::vector<Handler> TakeFocusEvents() { return std::exchange(focusEvents_, {}); }
   std::u32string TakeKeys() { return std::exchange(keys_, {}); }
   void QueueFocusEvent(Handler handler) { focusEvents_.push_back(handler); }

@@ -85,7 +85,7 @@ void ListBox::AddItems(const std::vector<std::u32string>& texts) {
   Form().TheWatcher().ItemsChanged(*this);
 }
 
-// The items in front of `unsorted` are in order, and stay in front of those that compare equal.
+// The items before `unsorted` are in order, and stay before items that compare equal.
 void ListBox::SortFrom(std::ptrdiff_t unsorted) {
   for (auto item = items_.begin() + unsorted; item != items_.end(); ++item) {
     keys_.push_back(CollationKey(*item));

@@ -1,4 +1,4 @@
-// Members of controls that are written and read like variables.
+// Members of controls that are read and written like variables.
 #pragma once
 
 #include <concepts>
@@ -9,7 +9,7 @@
 
 namespace quill {
 
-// A stored property. Writing a new value notifies its control, which raises the events that follow
+// A stored property. Writing a new value notifies the control, which raises the resulting events
 // before the write returns.
 template <class T>
 class Property {
@@ -21,7 +21,7 @@ class Property {
 
   Property& operator=(T value);
   Property& operator=(const Property& other) { return *this = other.value_; }
-  // As writing the longer text, at the cost of one character.
+  // Like writing the longer text, at the cost of one character.
   Property& operator+=(char32_t character) requires std::same_as<T, std::u32string> {
     value_ += character;
     Tell();

@@ -10,13 +10,13 @@ namespace quill {
 
 class TakenTags {
  public:
-  // Lines of another file are forgotten.
+  // Forgets the lines of any other file.
   void Add(const std::u32string& file, std::u32string line) {
     if (file_ != file) *this = {};
     file_ = file;
     lines_.push_back(std::move(line));
   }
-  // None where the lines are those of another file.
+  // Empty if the lines are those of another file.
   std::vector<std::u32string> Of(const std::u32string& file) const {
     return file == file_ ? lines_ : std::vector<std::u32string>();
   }

@@ -13,7 +13,7 @@
 namespace quill {
 namespace {
 
-// The one value of an attribute over a range, or nothing where it varies.
+// The value of an attribute over a range; nothing if it varies.
 template <class T>
 std::optional<T> Common(const Document& document, Range range, T Attributes::*attribute) {
   const FormatNumbers& ids = document.FormatIds();
@@ -57,7 +57,7 @@ void TextSurface::WriteSelLength(Position length) {
 }
 
 void TextSurface::SelectSpan(double start, double end) {
-  // Beyond this no text reaches, and a cast from double is still exact.
+  // Longer than any text, and a cast from double is still exact.
   constexpr double kFar = 1e15;
   const double from = std::clamp(start, -kFar, kFar);
   const double first = std::round(from);
@@ -153,7 +153,7 @@ void TextSurface::SaveFile(const std::u32string& path) {
   savedChanges_ = document_.Changes();
 }
 
-// By content: times and sizes of files can be the same before and after a change.
+// Compares contents: a change can leave the time and size of a file as they were.
 bool TextSurface::IsChangedByOthers(const std::string& path, std::string_view bytes) const {
   Disk& disk = Form().TheDisk();
   if (!disk.IsOneFile(path, EncodePath(filePath_))) return false;

@@ -1,8 +1,8 @@
 // The text control: the text, its attributes, and the one selection.
 //
 // Positions count characters from 0. Writes of the selection are clamped to the text. Attributes
-// written to an empty selection apply to what is typed there next; any write of SelStart or
-// SelLength, even of the same value, or a selection by the user discards them.
+// written to an empty selection apply to what is typed there next; they are discarded by any write
+// of SelStart or SelLength, even of the same value, and by any selection that the user makes.
 #pragma once
 
 #include <cstddef>
@@ -39,7 +39,7 @@ class TextSurface : public Control {
 
   // Writing it empties the selection. Clamped to the text.
   Accessor<TextSurface, &TextSurface::ReadSelStart, &TextSurface::WriteSelStart> SelStart{*this};
-  // Clamped to what remains of the text.
+  // Clamped to the rest of the text.
   Accessor<TextSurface, &TextSurface::ReadSelLength, &TextSurface::WriteSelLength> SelLength{*this};
   // Reading an attribute gives nothing if its value varies within the selection.
   Accessor<TextSurface, &TextSurface::ReadSelColor, &TextSurface::WriteSelColor> SelColor{*this};
@@ -55,43 +55,43 @@ class TextSurface : public Control {
   // rounded to the nearest whole number.
   void SelectSpan(double start, double end);
 
-  // Takes the underline off every character but the first, and puts the caret at 0.
+  // Removes the underline from every character but the first, and puts the caret at 0.
   void ClearUnderlines();
 
-  // As selecting each range and writing its attributes, but leaves the selection alone. The ranges
-  // must lie within the text, in ascending order and without overlap.
+  // Like selecting each range and writing its attributes, but leaves the selection alone. The
+  // ranges must lie within the text, in ascending order and without overlap.
   void Format(const std::vector<Range>& ranges, const AttributeChange& change);
   // What SelCharOffset would read if the range, which must not be empty, were selected.
   std::optional<Twips> CharOffset(Range range) const;
 
-  // Replaces the text by the file's and puts the caret at 0. Fails, with nothing changed, if
-  // the file cannot be read or is not text.
+  // Replaces the text with the file's and puts the caret at 0. Fails, with nothing changed, if the
+  // file cannot be read or is not text.
   void LoadFile(const std::u32string& path);
   // Writes the text as rich text. If the file is the one last loaded or saved and another program
-  // has changed it since, its content is kept beside it. Fails if it cannot be kept or written.
+  // has changed it since, its content is kept beside it. Fails if the old content cannot be kept or
+  // the new one cannot be written.
   void SaveFile(const std::u32string& path);
   // The path last loaded from or saved to; empty before.
   const std::u32string& FilePath() const { return filePath_; }
   // The path that the text came from; empty before.
   const std::u32string& SourcePath() const { return sourcePath_; }
 
-  // Whether the reader is to see the selection when the action ends or a dialog opens: scrolled
-  // into sight where it is out of it. The last call decides; keys that change the text ask for it,
-  // too.
+  // Whether the selection is scrolled into view, if it is out of view, when the action ends or a
+  // dialog opens. The last call decides; keys that change the text ask for it, too.
   void Reveal();
   void LeaveView();
 
-  // Whether the text was changed since it was last loaded or saved. Counted, not compared: a change
-  // that was undone counts.
+  // Whether the text has changed since it was last loaded or saved. Changes are counted, not
+  // compared: one that was undone counts.
   bool HasUnsavedChanges() const { return document_.Changes() != savedChanges_; }
 
-  // The first position at or behind `from` of a character that has, or lacks, a colour; the text's
-  // length if there is none.
+  // The first position from `from` on of a character that has, or lacks, a colour; the length of
+  // the text if there is none.
   Position FindColour(Position from, Colour colour) const;
   Position FindOtherColour(Position from, Colour colour) const;
 
-  // What the user's keys do. Each leaves the caret behind what it typed, and does nothing if a
-  // table would lose the end of a cell or row without the whole row.
+  // What the user's keys do. Each leaves the caret after what it typed, and does nothing if a table
+  // would lose the end of a cell or row without the whole row.
 
   // Selects with mouse or keys; both ends are clamped.
   void UserSelects(Position start, Position length);
@@ -109,7 +109,7 @@ class TextSurface : public Control {
   Attributes TypingAttributes() const;
   Range Selection() const { return selection_; }
   const Document& Doc() const { return document_; }
-  // Puts a text in place without a file; for tests and benchmarks.
+  // Sets the text without a file; for tests and benchmarks.
   void SetDocument(Document document);
 
  private:
@@ -125,8 +125,8 @@ class TextSurface : public Control {
   EditHistory history_;
   std::u32string filePath_;
   std::u32string sourcePath_;
-  std::size_t fileContent_ = 0;     // a hash of what the file held when last loaded or saved
-  std::uint64_t savedChanges_ = 0;  // what the document counted then
+  std::size_t fileContent_ = 0;     // hash of the file's content when last loaded or saved
+  std::uint64_t savedChanges_ = 0;  // the document's count of changes then
 };
 
 }  // namespace quill

@@ -1,4 +1,4 @@
-// The observer of the window model: the real window, or a test.
+// The observer of the window model: the real window or a test.
 #pragma once
 
 #include "text/document.h"
@@ -28,7 +28,8 @@ class Watcher {
   virtual ~Watcher() = default;
 
   virtual void PropertyChanged(Control& /*control*/, PropertyId /*property*/) {}
-  // A single item added or removed is reported by its index; several, as a change of the list.
+  // A single item added or removed is reported by index; several are reported as a change of the
+  // list.
   virtual void ItemsChanged(ListBox& /*list*/) {}
   virtual void ItemInserted(ListBox& /*list*/, int /*index*/) {}
   virtual void ItemRemoved(ListBox& /*list*/, int /*index*/) {}
@@ -42,7 +43,7 @@ class Watcher {
   // Attributes changed within the range; any of its characters may look different.
   virtual void FormatChanged(Range /*range*/) {}
   virtual void SelectionChanged() {}
-  // Whether the selection of the text is to be scrolled into sight; the last word counts.
+  // Whether to scroll the selection of the text into view; the last call counts.
   virtual void RevealAsked(bool /*reveal*/) {}
   virtual void FocusMoved() {}
   // A modal dialog is about to open; what has been written must be visible behind it.

@@ -11,7 +11,7 @@ namespace quill {
 struct WorkState {
   using Text = WorkValue<std::u32string>;
   using Place = WorkValue<Position>;
-  // Read from a text that a user may have typed: not always whole.
+  // Read from text that a user may have typed, so not always a whole number.
   using Number = WorkValue<double>;
 
   Text TextBaseFile;              // path of the open text
@@ -23,11 +23,11 @@ struct WorkState {
   Number ScanPos;                 // 0-based: the character that the scan for marks looks at next
   Place ParsePos;                 // 1-based: where the search for a term resumes
   Number TagStart;                // 1-based: first character of the current term
-  Number TagEnd;                  // 1-based: its last character; navigation resumes behind it
+  Number TagEnd;                  // 1-based: its last character; navigation resumes after it
   Text CurrentTag;                // the tag line last taken from TagList
   Text GeneratedTag;              // the tag line just composed
   Number NextTagID;               // number for the tag being generated
-  Place CaretPos;                 // 0-based: caret saved for the check for a tag
+  Place CaretPos;                 // 0-based: caret saved during the check for a tag
   WorkValue<int> ParseIndex;      // copy of Parse_listbox.ListIndex
   Text ParseLine;                 // the item of Parse_listbox being searched for
   Text ParseTerm;                 // its term

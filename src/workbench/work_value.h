@@ -32,7 +32,7 @@ class WorkValue {
   std::optional<T> value_;
 };
 
-// In decimal form; "" for an empty one.
+// In decimal form; "" if empty.
 inline std::u32string TextOf(const WorkValue<double>& number) {
   return number.IsEmpty() ? std::u32string() : DecimalText(number);
 }
