@@ -17,7 +17,7 @@ void ShowOpenDialog(Form1& form) {
   form.CommonDialog1.ShowOpen();
 }
 
-// Makes the file if it is missing.
+// Creates the dictionary if it is missing.
 void OpenSpecificDict(Form1& form) {
   form.WorkState.SpecificDictFile = DictionaryOf(form.WorkState.TextBaseFile);
   form.TheDisk().CreateIfMissing(EncodePath(form.WorkState.SpecificDictFile.Get()));

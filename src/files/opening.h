@@ -6,7 +6,7 @@ namespace quill {
 
 class Form1;
 
-// Ends silently at the first step that fails; what was done before stands.
+// Ends silently at the first step that fails; what was done before it remains.
 void mnuFileOpen_Click(Form1& form);
 
 }  // namespace quill

@@ -16,7 +16,7 @@ void ShowSaveDialog(Form1& form) {
   form.CommonDialog1.ShowSave();
 }
 
-// The caption of a save says v1.05 where that of an opening says v1.07. That is intended.
+// After a save the caption says v1.05, after opening v1.07 or v 1.07. That is intended.
 void ShowSaved(Form1& form) {
   form.Caption = U"Quillorandix v1.05 ----- saved files " + form.WorkState.TextBaseFile.Get() +
                  U" + " + form.WorkState.TagListFile.Get();

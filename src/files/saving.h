@@ -1,7 +1,7 @@
 // Saving the text with its marks, and leaving the program.
 //
-// Changes are not tracked: a save always writes. The tag list is not part of a save; it is written
-// tag by tag.
+// A save always writes, changed or not. The tag list is not part of it, being written tag by tag: a
+// save under a new name creates an empty tag list file beside it. That is intended.
 #pragma once
 
 namespace quill {

@@ -13,7 +13,7 @@ void mnuPostProcess_Click(Form1& form);
 void mnuDialogue_off_Click(Form1& form);
 void mnuDialogue_on_Click(Form1& form);
 
-// Opening the Info menu already shows the panel; its one item shows it again.
+// Opening the Info menu already shows the panel, and its one item shows it again. That is intended.
 void mnuInfo_Click(Form1& form);
 void mnuVLK_Click(Form1& form);
 void Close_Info_Click(Form1& form);

@@ -8,7 +8,7 @@
 namespace quill {
 namespace {
 
-// What tells the two kinds of marker apart.
+// How the two kinds of marker differ.
 struct Marker {
   CommandButton& define;
   CommandButton& defineOther;
@@ -65,13 +65,13 @@ void Set(Form1& form, const Marker& marker) {
   form.RichTextBox1.SelBold = true;
   form.add_to_dictionary.Text = marker.box.Text;
   form.add_to_dictionary.BackColor = FoundColour(marker.kind);
-  // Behind the write of the lemma, whose Change blanks the category.
+  // After the write of the lemma, whose Change blanks the category.
   form.operator_category.Text = std::u32string(CategoryOf(marker.kind));
   form.Frame1.Enabled = true;
   form.Add_to_global_dict.Enabled = true;
   form.Add_to_spec_dict.Enabled = true;
   marker.box.SetFocus();
-  // Where the box held text, its Change disables the two dictionary buttons again.
+  // If the box held text, its Change disables the two dictionary buttons again.
   marker.box.Text = U"";
   form.RichTextBox1.SetFocus();
   marker.set.Enabled = false;
@@ -92,11 +92,11 @@ void Reject(Form1& form, const Marker& marker) {
   form.Add_to_global_dict.Enabled = false;
   form.Add_to_spec_dict.Enabled = false;
   form.add_to_dictionary.BackColor = kNoLemmaKind;
-  // Where the box held anything else, its Change opens Frame1 again.
+  // If the box held anything else, its Change enables Frame1 again.
   form.add_to_dictionary.Text = U" ";
 }
 
-// While a term is being typed, nothing can be added to a dictionary.
+// While the user types a term, nothing can be added to a dictionary.
 void TermChanged(Form1& form) {
   form.Add_to_global_dict.Enabled = false;
   form.Add_to_spec_dict.Enabled = false;

@@ -2,8 +2,8 @@
 // term box of its kind; then Set writes the term back over the selection as a mark, or Reject
 // clears colour and bold from it.
 //
-// Nothing is remembered between the steps but which buttons are enabled: each step works on
-// whatever is selected then.
+// Between the steps, only the buttons' enabled state is kept: each step works on whatever is
+// selected at the time.
 #pragma once
 
 namespace quill {

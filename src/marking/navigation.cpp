@@ -11,17 +11,17 @@
 namespace quill {
 namespace {
 
-// Moves ScanPos on, one character at a time, while it is below TextLen, up to the first character
-// that is wanted. What was looked at last stays selected; with nothing looked at, the selection
-// stays. `find` gives the first wanted position from its argument on, the text's length for none,
-// so that a walk over a long text costs one look at the surface and not one a character.
+// Advances ScanPos, in steps of one, to the first wanted character or to TextLen. The last
+// character looked at stays selected; if none was, the selection stays. `find` returns the first
+// wanted position at or after its argument, or the length of the text, so that a long walk asks the
+// surface once and not once per character.
 template <class Find>
 bool ScanTo(Form1& form, Find find) {
   TextSurface& text = form.RichTextBox1;
   const double scan = form.WorkState.ScanPos;
   if (!(scan < static_cast<double>(form.WorkState.TextLen))) return false;
   const Position found = find(static_cast<Position>(std::max(scan, 0.0)));
-  // TagEnd may come from what a user typed into EndPosition: steps of one keep its fraction.
+  // TagEnd may be what a user typed into EndPosition: steps of one keep its fraction.
   const double fraction = std::isfinite(scan) ? scan - std::floor(scan) : 0;
   form.WorkState.ScanPos = static_cast<double>(found) + fraction;
   text.SelStart = std::min(found, text.Length() - 1);

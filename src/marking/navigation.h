@@ -1,7 +1,7 @@
 // The walk from one marked term to the next, for tagging them.
 //
-// There is no list of marks: a term is any run of one exact colour. The walk's position is TagEnd
-// alone, shared by both kinds and kept when another text is opened.
+// There is no list of marks: a term is any run of one exact colour. TagEnd alone is the walk's
+// position; both kinds share it, and it is kept when another text is opened.
 #pragma once
 
 namespace quill {
@@ -14,8 +14,8 @@ void FindBMarker_Click(Form1& form);
 void Restart_PP_Click(Form1& form);
 
 // Finds the next run of MarkerColor, selects and underlines it and fills the position boxes. The
-// scan skips the character behind the last run and the second character of a run; a run that
-// reaches the end of the text gets a start but no end.
+// scan skips the character after the last run and the second character of a run, and a run that
+// reaches the end of the text gets a start but no end. That is intended.
 void FindNextMarker(Form1& form);
 
 }  // namespace quill

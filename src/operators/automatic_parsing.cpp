@@ -82,12 +82,12 @@ void Mark(TextSurface& text, const std::vector<Range>& hits, std::optional<Opera
   text.Format(raised, change);
 }
 
-// Leaves ParsePos, TagStart and the caret where scanning for one item after the other would.
+// Leaves ParsePos, TagStart and the caret where scanning for one item after another would.
 void EndScans(Form1& form, const std::vector<Scan>& scans, const HitsByTerm& hits) {
   const auto moved = std::find_if(scans.rbegin(), scans.rend(),
                                   [&](const Scan& scan) { return !hits[scan.term].empty(); });
-  // ParsePos, which counts from 1, goes to SelStart, which counts from 0: the caret ends one
-  // character further. That is intended.
+  // SelStart, which counts from 0, gets ParsePos, which counts from 1, so the caret ends up one
+  // character further on. That is intended.
   if (moved != scans.rend()) form.RichTextBox1.SelStart = hits[moved->term].back().end + 1;
 
   for (const Scan& scan : scans) {

@@ -15,7 +15,7 @@ class CharacterClasses {
  public:
   CharacterClasses();
 
-  // The class of a folded character and its other cases, created if there is none.
+  // The class of a folded character and its other cases; created if there is none.
   CharacterClass Add(char32_t folded);
   // Any character up to U+10FFFF.
   CharacterClass Of(char32_t character) const {

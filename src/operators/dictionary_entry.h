@@ -30,7 +30,8 @@ std::u32string ListForm(const OperatorEntry& entry);
 // Without the line end. The gap is at least one blank.
 std::u32string FileForm(const OperatorEntry& entry);
 
-// The parts of an item of Parse_listbox, of either form, as the searches take them. Views into it.
+// The parts of an item of Parse_listbox, in either form, as the searches read them. Views into the
+// item.
 struct ItemParts {
   std::optional<std::u32string_view> Lemma;  // nothing in an item without a backslash
   // One character; empty if the item ends before it. Without a backslash it is the item's first

@@ -10,7 +10,7 @@ bool HasItems(Form1& form);
 bool HasSelectedItem(Form1& form);
 
 // Sets ParseLine, ParseTerm and ParseCategory from the item at ParseIndex, and ParsePos to the
-// beginning of the text. An item without a backslash keeps the former term.
+// beginning of the text. With an item without a backslash, ParseTerm keeps its value.
 void TakeItem(Form1& form);
 
 }  // namespace quill

@@ -11,7 +11,7 @@
 namespace quill {
 namespace {
 
-// What the guidance box says of a reading.
+// What the guidance box says about reading a dictionary.
 struct Guidance {
   const char32_t* read;
   const char32_t* notRead;

@@ -8,7 +8,7 @@ namespace quill {
 namespace {
 
 constexpr std::uint32_t kNoTerm = std::numeric_limits<std::uint32_t>::max();
-// All rows together: eight megabytes, about what a processor keeps at hand.
+// In all rows together: eight megabytes, about the size of a processor's cache.
 constexpr std::size_t kMostMoves = std::size_t{1} << 21U;
 
 // The sorted terms that share the prefix of a state.
@@ -46,7 +46,7 @@ void TermSearch::Grow(const std::vector<std::u32string>& terms) {
   for (State state = kRoot; state < bundles.size(); ++state) {
     auto [at, last, length] = bundles[state];
     firstChild_.push_back(static_cast<State>(entry_.size()));
-    // The term that ends here is the first of those that begin so.
+    // A term that ends here is the first of those with this prefix.
     if (at < last && terms[sorted[at]].size() == length) {
       if (length > 0) term_[state] = sorted[at];
       ++at;
@@ -63,7 +63,7 @@ void TermSearch::Grow(const std::vector<std::u32string>& terms) {
   firstChild_.push_back(static_cast<State>(entry_.size()));
 }
 
-// Fallbacks, reports and rows, each from those of shorter prefixes, which come first.
+// Fills in fallbacks, reports and rows, each from those of shorter prefixes, which come first.
 void TermSearch::Connect() {
   const std::size_t states = entry_.size();
   width_ = alphabet_.Count();
@@ -88,7 +88,7 @@ void TermSearch::FillRow(State state) {
   }
 }
 
-// kRoot where there is none.
+// kRoot if there is none.
 TermSearch::State TermSearch::Child(State state, CharacterClass next) const {
   const auto first = entry_.begin() + firstChild_[state];
   const auto last = entry_.begin() + firstChild_[state + 1];

@@ -29,8 +29,8 @@ class TermSearch {
   // The terms must be folded (FoldCase) and distinct. An empty term has no hits.
   explicit TermSearch(const std::vector<std::u32string>& terms);
 
-  // Non-overlapping hits per term, left to right. No search starts at the last character. In order
-  // of where the hits end.
+  // Non-overlapping hits per term, left to right, ordered by where they end. No search starts at
+  // the last character.
   std::vector<TermHit> Hits(std::u32string_view text) const;
 
   // Where the first hit at or after `from` begins, or kNone. Only for a list of one term.

@@ -14,11 +14,11 @@ Property<std::u32string>* EditLine(Control& control) {
   return nullptr;
 }
 
-// A user's carriage return is the Enter key. In the text itself and in the program's own keystrokes
-// it is a character like others.
+// A carriage return from the user is the Enter key. In the text itself and in the program's own
+// keystrokes it is a character like any other.
 char32_t UserKey(char32_t key) { return key == U'\r' ? kParagraphEnd : key; }
 
-// A text that a user pastes or drops, with every line end, CR LF, LF or CR, as a paragraph end.
+// A pasted or dropped text, with every line end (CR LF, LF or CR) turned into a paragraph end.
 std::u32string WithParagraphEnds(std::u32string_view text) {
   std::u32string ended;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -36,7 +36,7 @@ template <class Action>
 void Program::Run(Action&& action) {
   if (ended_) return;
   try {
-    // A failure that no handler's regime took ends that handler; what it queued is delivered.
+    // A failure that the handler did not deal with ends it; what it queued is delivered.
     CarryOn(action);
     Deliver();
   } catch (const ProgramEnd&) {
@@ -58,7 +58,7 @@ void Program::DeliverKeys(std::u32string_view keys) {
   Control* const target = form_.Focus();
   if (target == nullptr || keys.empty()) return;
   if (target == &form_.RichTextBox1) {
-    // They arrive together and are one edit.
+    // All keys arrive together, as one edit.
     if (target->IsInReach()) form_.RichTextBox1.TypeOver(keys);
     return;
   }
@@ -171,7 +171,7 @@ bool Program::Key(Control& control, char32_t key, bool overAll) {
   }
   Property<std::u32string>* const line = EditLine(control);
   if (line == nullptr) return false;
-  // The Enter key means a line end in a box of several lines and nothing in one of one line.
+  // The Enter key types a line end in a multi-line box and does nothing in a single-line one.
   if (key == kParagraphEnd && !control.Row().stored.multiLine) return false;
   if (overAll) {
     *line = std::u32string(1, key);

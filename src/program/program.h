@@ -25,20 +25,20 @@ class Program {
   // Clicking a button moves the focus to it; clicking a menu item does not.
   void Click(CommandButton& button);
   void Click(MenuItem& item);
-  // A key of the window that stands for the button: the focus stays where it is.
+  // A key of the window that acts as the button: the focus stays where it is.
   void PressKeyFor(CommandButton& button);
   // The item must exist.
   void ClickItem(ListBox& list, int item);
   void Pick(ComboBox& combo, int row);
   // Moves the focus to a control and raises GotFocus, unless the control has the focus already.
   void GoInto(Control& control);
-  // Goes into the control and types key by key: at the end of a box, over the selection of the
+  // Goes into the control and types key by key: at the end of a box, or over the selection of the
   // text.
   void Type(Control& control, std::u32string_view text);
   // Goes into the box and replaces its text key by key; an empty text clears it.
   void Enter(Control& control, std::u32string_view text);
-  // Takes over the text that a box's own editing (a caret, a paste, an input method) has produced,
-  // as one change. Does nothing if the text is the same.
+  // Takes over, as one change, the text that a box's own editing (caret, paste, input method) has
+  // produced. Does nothing if the text is the same.
   void Edit(Control& box, std::u32string_view text);
   // Selects in the text with the mouse: the text takes the focus.
   void Select(Position start, Position length);

@@ -10,7 +10,7 @@
 namespace quill {
 namespace {
 
-// The index of its line. A line that cannot be cut holds the caret at 0.
+// The index of the tag's line, if any. A line that cannot be cut counts as holding the caret at 0.
 std::optional<int> FindTagAt(const Form1& form, Position caret) {
   if (!form.PostFrame.Visible || form.RichTextBox1.Text() == U" ") return std::nullopt;
   const auto at = static_cast<double>(caret);
@@ -30,7 +30,7 @@ void FindTagAtCaret(Form1& form) {
   form.RichTextBox1.SelectSpan(span.start, span.end);
 }
 
-// Takes the tag that holds the caret for the reference of the term being edited.
+// Makes the tag that holds the caret the reference of the term being edited.
 void FindReferenceTag(Form1& form) {
   form.RefTagStart.Text = U" ";
   form.RefTagStop.Text = U" ";
@@ -39,7 +39,7 @@ void FindReferenceTag(Form1& form) {
   if (!found) return;
   const TagSpan span = CutTagSpan(form.TagList.List(*found));
   text.SelectSpan(span.start, span.end);
-  // The whole term, also where the user selected a part of it.
+  // The whole term, even if the user selected only part of it.
   form.RefBox.Text = text.SelText();
   form.RefTagStart.Text = DecimalText(span.start);
   form.RefTagStop.Text = DecimalText(span.end);

@@ -10,8 +10,8 @@
 namespace quill {
 namespace {
 
-// Rows are replaced or added, never taken away: the fifth row of the relative types stays behind
-// the four absolute ones.
+// Rows are replaced or added, never removed: the fifth relative type remains after the four
+// absolute ones. That is intended.
 void WriteRows(ComboBox& combo, std::initializer_list<std::u32string_view> rows) {
   int row = 0;
   for (const std::u32string_view text : rows) combo.SetList(row++, text);
@@ -40,7 +40,8 @@ void ResetTagEditor(Form1& form) {
 
 void ApplyTagEditorRules(Form1& form) {
   form.ClassCombo.Enabled = form.StartPosition.Text != Placeholder::kStart;
-  // The list's first row is "Class" and a tab: picking it counts as a class chosen.
+  // The first row of the list is "Class" and a tab, so picking it counts as choosing a class. That
+  // is intended.
   form.OperatorCombo.Enabled = form.ClassCombo.Text != Placeholder::kClass;
   form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(kPlaceholderRow);
   form.TypeCombo.Enabled = form.ModeCombo.Text != Placeholder::kMode;
@@ -74,7 +75,7 @@ void ModeCombo_Click(Form1& form) {
     form.RefFrame.Visible = true;
     WriteRows(form.TypeCombo, {Placeholder::kType, U"before", U"after", U"while", U"same"});
   }
-  // Before the first pick of a mode the list is empty, and so is its first row.
+  // Until a mode has been picked, the list is empty.
   form.TypeCombo.Text = form.TypeCombo.ListCount() > 0 ? form.TypeCombo.List(kPlaceholderRow) : U"";
   ApplyTagEditorRules(form);
 }

@@ -1,7 +1,7 @@
 // The rules of the tag editor, the row of controls in PostFrame that holds a tag while it is made.
 //
-// The editor has no state of its own: a control that shows its placeholder is not filled in, and
-// the rules enable the next control by what the others show.
+// The editor keeps no state: a control that shows its placeholder is not filled in, and the rules
+// enable the next control depending on what the others show.
 #pragma once
 
 namespace quill {

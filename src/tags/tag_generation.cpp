@@ -10,7 +10,7 @@
 namespace quill {
 namespace {
 
-// The tag that stands in the tag editor, whatever its mode: views of its controls.
+// The tag in the tag editor, whatever its mode, as views of the controls' texts.
 TagFields EditorFields(const Form1& form) {
   return {
       form.ID.Text.Get(),          form.StartPosition.Text.Get(), form.EndPosition.Text.Get(),
@@ -21,8 +21,8 @@ TagFields EditorFields(const Form1& form) {
   };
 }
 
-// Magenta warns of a tag that is not filled in. Three of the five texts are no placeholders of the
-// present form: a tag that shows "Operator", "Mode" or "Value ?" draws no warning.
+// Magenta warns of a tag that is not filled in. Three of the five texts are not placeholders of
+// this form: a tag that shows "Operator", "Mode" or "Value ?" gets no warning. That is intended.
 void ColourTaggedString(Form1& form) {
   if (const auto kind = KindOfTag(form.OperatorCombo.Text.Get())) {
     form.TaggedString.ForeColor = MarkColour(*kind);

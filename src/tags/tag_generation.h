@@ -1,6 +1,6 @@
 // Making a tag from what the tag editor shows: in TagList, in the text and in the tag list file.
 //
-// The same button makes a new tag and edits one, depending on whether an item of TagList is
+// The same button makes a new tag or edits one, depending on whether an item of TagList is
 // selected. A tag's number is a label, not a key.
 #pragma once
 
@@ -14,7 +14,7 @@ void Generate_Tag_Click(Form1& form);
 // number, NextTagID keeps its value.
 void AssignNextTagID(Form1& form);
 
-// Formats the span of the tag and adds GeneratedTag to list and file.
+// Formats the span of the tag and adds GeneratedTag to the list and the file.
 void ApplyTagToText(Form1& form);
 
 }  // namespace quill

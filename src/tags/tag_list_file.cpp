@@ -45,8 +45,8 @@ bool HoldsTheseBytesOnly(std::string_view file, std::string_view known) {
   });
 }
 
-// Whether a file has a line that is not known, or has it more often. Lines of the file are
-// compared, not tags: a tag may be several lines.
+// Whether a file has an unknown line, or a known one more often. Compares lines of the file, not
+// tags: a tag may be several lines.
 bool HoldsForeignLine(std::string_view file, std::string_view known) {
   if (HoldsTheseBytesOnly(file, known)) return false;
   std::vector<std::u32string> there = DecodeLines(file);
@@ -60,7 +60,7 @@ void DeriveTagListFile(Form1& form) {
   form.WorkState.TagListFile = TagListOf(form.WorkState.TextBaseFile);
 }
 
-// Returns its path.
+// Returns the path of the file.
 std::string MakeIfMissing(const Form1& form) {
   std::string path = EncodePath(form.WorkState.TagListFile.Get());
   form.TheDisk().CreateIfMissing(path);

@@ -2,7 +2,7 @@
 //
 // The two may differ: an edit appends to the file and leaves the old line in it, a removal may stay
 // unsaved, and other programs may write to the file. So a rewrite from the list distinguishes lines
-// that the user gave up from lines that this program does not know, and loses none of the latter.
+// that the user gave up from lines that the program does not know, and loses none of the latter.
 #pragma once
 
 namespace quill {
@@ -14,7 +14,7 @@ class Form1;
 void LoadTagList(Form1& form);
 
 // Derives TagListFile from TextBaseFile, creates the file if it is missing, and shows the guidance
-// to the Process menu. Fails, without the guidance, if the file cannot be created.
+// on the Process menu. Fails, without the guidance, if the file cannot be created.
 void EnsureTagListFile(Form1& form);
 
 // Takes the selected item out of TagList, to be edited or removed; its line becomes CurrentTag.

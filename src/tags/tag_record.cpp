@@ -49,8 +49,8 @@ TagFields CutTag(std::u32string_view line, std::size_t count) {
     start = separator == kMissing ? kMissing : separator + kSeparator.size();
   }
   if (count < TagField::kCount) return fields;
-  // The search for the parenthesis starts behind the last separator but one: one in the last field
-  // but one leaves the last field empty.
+  // The search for the closing parenthesis starts after the last separator but one, so a
+  // parenthesis in the last field but one leaves the last field empty. That is intended.
   fields[TagField::kRefStop] = Between(line, start, FindFrom(line, U')', closingFrom));
   return fields;
 }
@@ -62,7 +62,7 @@ TagSpan CutTagSpan(std::u32string_view line) {
 
 std::optional<double> CutTagNumber(std::u32string_view line) {
   const std::size_t opening = line.find(U'(');
-  // Without a parenthesis the text begins at the head of the line.
+  // Without a parenthesis, the number begins at the start of the line.
   const std::size_t start = opening == kMissing ? 0 : opening + 1;
   const std::size_t end = line.find(U'\\');
   if (end == kMissing || start > end) return std::nullopt;

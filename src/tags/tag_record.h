@@ -4,8 +4,8 @@
 //       \ RefTerm\ RefStart\ RefStop )
 //
 // in one line: "t_op(", 15 fields with "\ " between them, " )". Nothing is quoted, escaped or
-// trimmed: a field is the text of its control, blanks included. A backslash inside a field is taken
-// for a separator and shifts all later fields by one; a line break splits the tag into two lines of
+// trimmed: a field is the text of its control, blanks included. A backslash inside a field counts
+// as a separator and shifts all later fields by one; a line break splits the tag into two lines of
 // the file.
 #pragma once
 
@@ -39,7 +39,8 @@ struct TagField {
   };
 };
 
-// What the controls of a tag show before anything is entered. In a line it says that nothing was.
+// What the controls of a tag show before anything is entered. In a line, it means that nothing was
+// entered.
 struct Placeholder {
   static constexpr const char32_t* kId = U"Tag-ID";
   static constexpr const char32_t* kStart = U"Start";
@@ -59,20 +60,20 @@ using TagFields = std::array<std::u32string_view, TagField::kCount>;
 
 std::u32string ComposeTag(const TagFields& fields);
 
-// Cuts the first `count` fields, as views into the line; the others are empty. So is a field whose
+// Cuts the first `count` fields, as views into the line; the others are empty. So are a field whose
 // separators are missing or out of order, and all fields after a missing separator. The last field
 // keeps the blank of the closing " )". Read numbers with Val.
 TagFields CutTag(std::u32string_view line, std::size_t count = TagField::kCount);
 
-// The first and last character of a tag's term, 1-based. 0 for what cannot be cut.
+// The first and last character of a tag's term, 1-based; 0 if it cannot be cut.
 struct TagSpan {
   double start = 0;
   double end = 0;
 };
 TagSpan CutTagSpan(std::u32string_view line);
 
-// The number of a tag as the numbering reads it: between the first "(" and the first "\". Nothing
-// unless that is decimal digits only.
+// The number of a tag as the numbering reads it: the text between the first "(" and the first "\",
+// if that is decimal digits only.
 std::optional<double> CutTagNumber(std::u32string_view line);
 
 }  // namespace quill

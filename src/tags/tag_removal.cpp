@@ -14,7 +14,8 @@
 namespace quill {
 namespace {
 
-// The first line that tags the same word, anywhere in the text.
+// The first line that tags the same word. One that tags it elsewhere in the text counts, too, and
+// the mark of the removed tag then stays. That is intended.
 std::optional<int> FindTagOf(const ListBox& list, std::u32string_view term) {
   for (int i = 0; i < list.ListCount(); ++i) {
     if (CutTag(list.List(i), TagField::kTerm + 1)[TagField::kTerm] == term) return i;
@@ -52,7 +53,7 @@ void RemoveItem_Click(Form1& form) {
     MakePlain(form.RichTextBox1, removed);
     ResetTagEditor(form);
   }
-  // The reader goes on where the tag was removed, also where another one is selected now.
+  // The reader stays where the tag was removed, even if another one is now selected.
   form.RichTextBox1.LeaveView();
   const Button answer = form.MsgBox({.prompt = U"Do you want to save this change?",
                                      .title = U"Input required",

@@ -9,7 +9,8 @@
 namespace quill {
 namespace {
 
-// The rows of TypeCombo stay those of the mode that the user picked last, whatever the tag's mode.
+// The rows of TypeCombo remain those of the mode that the user last picked, whatever the tag's
+// mode. That is intended.
 void FillEditor(Form1& form, const std::u32string& line, const TagFields& fields) {
   form.TaggedString.Text = line;
   form.marked_term.Text = std::u32string(fields[TagField::kTerm]);
@@ -30,7 +31,7 @@ void FillEditor(Form1& form, const std::u32string& line, const TagFields& fields
   form.RefTagStop.Text = DecimalText(Val(fields[TagField::kRefStop]));
 }
 
-// A tag without a reference has a blank or a 0 for its start.
+// A tag without a reference has a blank or a 0 as the reference's start.
 void ShowReference(Form1& form, const TagFields& fields) {
   const double start = Val(fields[TagField::kRefStart]);
   if (start == 0) return;

@@ -17,7 +17,7 @@ namespace quill {
 using Offset = std::uint32_t;
 
 // The bytes of the source from which one character was read. A typed character has an empty
-// stretch: the place where its bytes go in.
+// stretch: the place where its bytes will be inserted.
 struct Origin {
   enum Kind : std::uint32_t {
     kPlain = 0,
@@ -36,15 +36,15 @@ struct Origin {
 inline constexpr std::uint32_t kLongestOrigin = (1U << 30U) - 1;
 
 // A group of the file that holds words of the four attributes, then characters and groups of the
-// same kind, and nothing else: the form in which marks are saved. Where the words are those that a
-// save writes, such a group is changed or dissolved where its characters change, so that marking
-// again and again does not nest deeper.
+// same kind, and nothing else: the form in which marks are saved. If the words are those that a
+// save writes, the group is changed or dissolved when its characters change, so that repeated
+// marking does not nest ever deeper.
 struct MarkGroup {
   Offset open = 0;     // of its opening brace
-  Offset content = 0;  // behind its words
+  Offset content = 0;  // after its words
   Offset close = 0;    // of its closing brace, or the end of the file
   AttributeChange words;
-  Attributes outside;  // in force in front of its opening brace
+  Attributes outside;  // in force before its opening brace
 
   bool operator==(const MarkGroup&) const = default;
 };
@@ -59,18 +59,18 @@ struct ColourTable {
   std::vector<Entry> entries;
   bool present = false;
   bool endsInSemicolon = true;    // the last entry is complete
-  Offset end = 0;                 // of its closing brace; without a table, the place for one
-  Offset expandedEnd = 0;         // of the closing brace of the table that mirrors it, 0 for none
-  std::uint32_t highestUsed = 0;  // highest number that a colour word of the file names
+  Offset end = 0;                 // of its closing brace; without a table, where one would go
+  Offset expandedEnd = 0;         // of the closing brace of the table that mirrors it; 0 for none
+  std::uint32_t highestUsed = 0;  // highest entry that a colour word of the file names
 };
 
 struct Source {
   std::string bytes;
   ColourTable colours;
   std::vector<MarkGroup> groups;  // in the order of their opening braces, nested ones included
-  Offset bodyEnd = 0;             // where a first character of an empty text goes in
-  // Whether all of it is as programs write rich text. Where it is not, bytes of our own may be read
-  // together with what stands beside them, and a save is read again before it is trusted.
+  Offset bodyEnd = 0;             // where the first character of an empty text goes
+  // Whether all of it is rich text as programs write it. If not, bytes of ours may be read together
+  // with their neighbours, so a save is read back before it is trusted.
   bool wellFormed = true;
 };
 
