@@ -33,7 +33,7 @@ Application& Application::Instance() { return dynamic_cast<Application&>(*instan
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     if (!IsInput(*event)) return QApplication::notify(receiver, event);
-    // The event may be the receiver's last.
+    // The event may destroy its receiver.
     const QPointer<QWidget> widget = qobject_cast<QWidget*>(receiver);
     if (widget != nullptr && refuses_ && refuses_(*widget, *event)) return true;
     const bool taken = QApplication::notify(receiver, event);

@@ -1,6 +1,6 @@
 // The toolkit's event loop with a guard around it: whatever the toolkit calls runs inside one of
-// its events, and no failure leaves an event. After each event of mouse or keys the window is read
-// back, for what the toolkit did to a widget by itself.
+// its events, and no failure leaves an event. After each mouse or key event the widget is read back
+// from the model, because the toolkit may have changed it on its own.
 #pragma once
 
 #include <QApplication>
@@ -12,20 +12,20 @@ class Application final : public QApplication {
  public:
   using QApplication::QApplication;
 
-  // The one application; a program without it cannot have a window.
+  // The one application. There can be no window without it.
   static Application& Instance();
 
-  // `read` runs with the widget that got an event of mouse or keys, when all that came of the event
-  // is done. nullptr ends it.
+  // After each mouse or key event, once everything that it caused is done, `read` runs with the
+  // widget that got the event. nullptr ends this.
   void AfterInput(std::function<void(const QWidget&)> read) { afterInput_ = std::move(read); }
 
-  // From now on, events of mouse and keys for which it says so reach no widget and move no focus.
-  // nullptr ends it.
+  // From now on, mouse and key events for which `refuses` returns true reach no widget and move no
+  // focus. nullptr ends this.
   void RefuseInput(std::function<bool(const QWidget&, const QEvent&)> refuses) {
     refuses_ = std::move(refuses);
   }
 
-  // What throws is told on standard error, and counts as an event that was taken.
+  // An exception is reported on standard error, and the event counts as handled.
   bool notify(QObject* receiver, QEvent* event) override;
   // How many events threw.
   int GivenUp() const { return givenUp_; }

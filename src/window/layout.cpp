@@ -25,7 +25,7 @@ QSize LeastSize() {
 }
 
 QRect PlaceIn(QSize room, const CatalogueRow& row, bool guidanceShown) {
-  // Below the least size the desk scrolls; the text still has the width of what is seen of it.
+  // Below the least size the desk scrolls, but the text keeps the width of the visible part.
   const int wider = room.width() - StoredSize().width();
   const int higher = std::max(room.height(), LeastSize().height()) - StoredSize().height();
   QRect place = PixelsOf(row.place);

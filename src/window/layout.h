@@ -1,4 +1,4 @@
-// Where what lies directly in the window goes, by the size of the window.
+// The places of the controls that lie directly in the window, depending on its size.
 #pragma once
 
 #include <QRect>
@@ -8,14 +8,16 @@
 
 namespace quill {
 
-// The stored size of the window's inside, and the least at which the text still shows some lines.
+// The stored size of the window's inside, and the smallest at which the text still shows some
+// lines.
 QSize StoredSize();
 QSize LeastSize();
 
-// The room is what is seen of the window's inside; below the least size it lies on more than that.
-// The text takes what the window grows by, and gives what it lacks. The panels under it keep their
-// size and move down; those over it keep their places. The guidance box stays at the text's right
-// end, and while it is shown the text ends beside it, so that all of every line can be read.
+// `room` is the visible part of the window's inside; below the least size the controls extend
+// beyond it. The text gains what the window gains and loses what it loses. The panels below the
+// text keep their size and move down; those over it keep their places. The guidance box stays at
+// the right end of the text, and while it is shown the text ends beside it, so that every line can
+// be read in full.
 QRect PlaceIn(QSize room, const CatalogueRow& row, bool guidanceShown);
 
 }  // namespace quill

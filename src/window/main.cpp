@@ -36,7 +36,7 @@ bool HasDisplay() {
   return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
 }
 
-// Where no session bus runs, the toolkit's D-Bus library would start one as a child process.
+// Without a session bus, the toolkit's D-Bus library would start one as a child process.
 void StartNoSessionBus() {
   if (IsSet("DBUS_SESSION_BUS_ADDRESS")) return;
   const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -58,8 +58,7 @@ QIcon Icon() {
   return icon;
 }
 
-// The text to open at the start, empty for none. Ends the process at --help, --version and
-// arguments that can't be.
+// The text to open at startup; empty for none. Exits on --help, --version and invalid arguments.
 QString TextFromArguments(const QCoreApplication& application) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
@@ -90,11 +89,11 @@ int main(int argc, char** argv) {
     TextFromArguments(questions);
     Fail("there is no display; start it in a graphical session, or set DISPLAY");
   }
-  // A limit on the size of files makes a save fail, which is told, instead of ending the program.
+  // A limit on file sizes then makes a save fail, with a message, instead of ending the program.
   std::signal(SIGXFSZ, SIG_IGN);
   StartNoSessionBus();
   quill::Application application(argc, argv);
-  // Numbers in files have a point whatever the user's locale.
+  // Numbers in files have a decimal point, whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");
   const QString text = TextFromArguments(application);
   QApplication::setDesktopFileName(QStringLiteral("org.quillorandix.Quillorandix"));
@@ -117,6 +116,6 @@ int main(int argc, char** argv) {
   window.show();
   if (!text.isEmpty()) QTimer::singleShot(0, &window, [&] { open(text); });
   const int status = QApplication::exec();
-  copies.Take();  // before signals end the process at once again
+  copies.Take();  // before signals again end the process at once
   return status;
 }

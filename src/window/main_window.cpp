@@ -32,7 +32,7 @@
 namespace quill {
 namespace {
 
-// The inside of the window. On a screen that is too small even for the least size, it scrolls.
+// The inside of the window. It scrolls on a screen too small even for the least size.
 class Room : public QScrollArea {
  public:
   Room(QWidget& parent, std::function<void()> resized)
@@ -52,7 +52,7 @@ class Room : public QScrollArea {
   std::function<void()> resized_;
 };
 
-// The one file of this machine that is dragged; empty where it is anything else.
+// The path of a single dragged local file; empty for anything else.
 QString DroppedFile(const QMimeData& data) {
   const QList<QUrl> urls = data.urls();
   if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
@@ -72,8 +72,8 @@ MainWindow::MainWindow(Program& program)
       desk_(new QWidget) {
   setObjectName(QStringLiteral("Form1"));
   desk_->setMinimumSize(LeastSize());
-  // A window that comes back to the front would give the keys to some control, had the desk no use
-  // for them. A click on the desk changes nothing.
+  // If the desk took no focus, a window that comes back to the front would give it to some control.
+  // A click on the desk changes nothing.
   desk_->setFocusPolicy(Qt::TabFocus);
   desk_->setAccessibleName(QStringLiteral("Quillorandix"));
   room_->setWidget(desk_);
@@ -110,13 +110,13 @@ void MainWindow::BuildMenus() {
   }
 }
 
-// The end of the menu bar is the one place that the catalogue leaves free.
+// The end of the menu bar is the only place that the catalogue leaves free.
 void MainWindow::BuildMarkLabel() {
   mark_ = new QLabel(menuBar());
   mark_->setObjectName(QStringLiteral("MarkAtCaret"));
   mark_->setAccessibleName(QStringLiteral("Mark at the caret"));
   mark_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  // The bar puts it higher than its own captions.
+  // The bar would put it higher than its captions.
   mark_->setContentsMargins(0, 2, 12, 0);
   const QString longest = MarkName({kFoundA, true, true, 0});
   mark_->setMinimumWidth(mark_->fontMetrics().horizontalAdvance(longest) + 24);
@@ -138,14 +138,14 @@ void MainWindow::BuildControls() {
   }
 }
 
-// The catalogue's order is front first.
+// The catalogue is ordered front first.
 void MainWindow::StackControls() {
   for (auto binder = binders_.rbegin(); binder != binders_.rend(); ++binder) {
     if ((*binder)->Widget() != nullptr) (*binder)->Widget()->raise();
   }
 }
 
-// Without a caption: the menus stay as they are.
+// Without captions, so that the menus stay as they are.
 void MainWindow::BuildShortcuts() {
   const auto add = [this](QKeySequence::StandardKey key, auto pressed) {
     connect(new QShortcut(key, this), &QShortcut::activated, this, pressed);
@@ -157,7 +157,7 @@ void MainWindow::BuildShortcuts() {
   });
 }
 
-// The keyboard begins in the panel that is open, and the model hears of it when the user acts.
+// The keyboard starts in the open panel; the model is told when the user acts.
 void MainWindow::BeginInFirstBox() {
   lastFocus_ = &form_.UserID1;
   auto& box = dynamic_cast<QLineEdit&>(WidgetOf(form_.UserID1));
@@ -177,7 +177,7 @@ QWidget& MainWindow::WidgetOf(const Control& control) const {
 void MainWindow::Show() {
   updates_.ShowChanges();
   if (updates_.TakeWindowChanged()) ShowWindow();
-  // What lost the keyboard when it went out of reach has it again when it comes back.
+  // A control that lost the keyboard by going out of reach gets it back when it returns.
   const bool isBack = form_.Focus() != nullptr && desk_->hasFocus();
   if (updates_.TakeFocusMoved() || isBack) ShowFocus();
   const TextSurface& text = form_.RichTextBox1;
@@ -190,7 +190,7 @@ void MainWindow::TextLeaves() {
 }
 
 void MainWindow::ShowWindow() {
-  // The toolkit would take "[*]" for a mark of its own.
+  // "[*]" is a placeholder of the toolkit's.
   setWindowTitle(ToQt(form_.Caption.Get()).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
   Arrange();
 }
@@ -199,7 +199,7 @@ void MainWindow::ShowFocus() {
   lastFocus_ = form_.Focus();
   if (!lastFocus_->IsInReach()) return;
   QWidget& widget = WidgetOf(*lastFocus_);
-  // A user's own move is done already, down to the place of the caret.
+  // A move by the user is done already, including the caret's place.
   if (widget.hasFocus() || widget.isAncestorOf(focusWidget())) return;
   updates_.BinderOf(*lastFocus_).TakeFocus();
   room_->ensureWidgetVisible(&widget);
@@ -259,7 +259,7 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
   }
 }
 
-// It would paste what was selected last, here or in another program. A scroll bar may have it.
+// It would paste the last selection, made here or in another program. Scroll bars may have it.
 bool MainWindow::IsMiddleButton(const QWidget& widget, const QEvent& event) {
   return static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton &&
          qobject_cast<const QScrollBar*>(&widget) == nullptr;
@@ -272,14 +272,14 @@ bool MainWindow::IsMoveByTab(const QKeyEvent& key) {
   return tab && others == Qt::NoModifier && MoveByTab(!back);
 }
 
-// No widget sees a drag: one file is opened, and anything else is refused.
+// No widget sees a drag: a single file is opened, anything else is refused.
 void MainWindow::Drop(QDropEvent& event) {
   const QString path = actions_.Running() ? QString() : DroppedFile(*event.mimeData());
   if (path.isEmpty()) return event.ignore();
   event.setDropAction(Qt::CopyAction);
   event.accept();
   if (event.type() != QEvent::Drop) return;
-  // The program that the file came from waits for the end of this event.
+  // The program that the file comes from waits for this event to end.
   dropped_ = path;
   opening_.start(0, this);
 }
@@ -318,7 +318,7 @@ void MainWindow::UserGoesInto(const QWidget& widget) {
 bool MainWindow::IsTabStop(const Control& control) const {
   if (!control.IsInReach() || !control.Row().stored.tabStop) return false;
   const QWidget& widget = WidgetOf(control);
-  // A panel in front of it hides it.
+  // A panel in front may hide it.
   const QWidget* const seen = desk_->childAt(widget.mapTo(desk_, widget.rect().center()));
   return seen != nullptr &&
          (seen == &widget || widget.isAncestorOf(seen) || &control == &form_.RichTextBox1);

@@ -1,5 +1,5 @@
-// The real window. It is built once from the catalogue and then follows the model; it decides
-// nothing about the work.
+// The real window. It is built once from the catalogue, then follows the model; it makes no
+// decisions about the work.
 #pragma once
 
 #include <QBasicTimer>
@@ -27,21 +27,21 @@ class MainWindow final : public QMainWindow {
   explicit MainWindow(Program& program);
   ~MainWindow() override;
 
-  // What a file dropped on the window does, given its path.
+  // Called with the path of a file dropped on the window.
   void OnDroppedFile(std::function<void(const QString&)> open) { openFile_ = std::move(open); }
-  // From now on they, if any, are told what happens to the text.
+  // From now on, the copies (if not nullptr) are told what happens to the text.
   void Inform(UnsavedCopies* copies) { copies_ = copies; }
 
-  // The stored size and the menu bar. The window begins with it where the screen is large enough.
+  // The stored size plus the menu bar: the initial size if the screen is large enough.
   QSize sizeHint() const override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
-  // Sees the user's moves of the focus: a press of the mouse on a control, a Tab key. Keeps from
-  // the widgets what is no work of theirs: the middle button and drops.
+  // Watches for the user's moves of the focus: a mouse press on a control, a Tab key. Keeps the
+  // middle button and drops away from the widgets.
   bool eventFilter(QObject* object, QEvent* event) override;
-  // The toolkit's own moves of the focus, as from a widget that is disabled or hidden: they end
+  // The toolkit's own moves of the focus, for instance away from a disabled or hidden widget, end
   // where keys do no harm.
   bool focusNextPrevChild(bool next) override;
 
@@ -60,7 +60,7 @@ class MainWindow final : public QMainWindow {
   void ShowFocus();
   void Arrange();
 
-  // Brings the control that a widget belongs to back to what the model holds.
+  // Sets a control back to the model's state, given one of its widgets.
   void ReadBack(const QWidget& widget);
 
   static bool IsMiddleButton(const QWidget& widget, const QEvent& event);
@@ -69,7 +69,7 @@ class MainWindow final : public QMainWindow {
   void UserGoesInto(const QWidget& widget);
   bool IsMoveByTab(const QKeyEvent& key);
   bool MoveByTab(bool forward);
-  // Whether Tab stops there: in reach, and not behind another panel.
+  // Whether Tab stops there: the control is in reach and not behind another panel.
   bool IsTabStop(const Control& control) const;
   Control* ControlOf(const QWidget* widget) const;
 
@@ -77,13 +77,13 @@ class MainWindow final : public QMainWindow {
   Actions actions_;
   Updates updates_;
   std::function<void(const QString&)> openFile_;
-  QString dropped_;  // the file that was dropped last
+  QString dropped_;  // the last file dropped
   QBasicTimer opening_;
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
-  QScrollArea* room_;                             // what the window has for the desk
+  QScrollArea* room_;                             // the viewport of the desk
   QWidget* desk_;
-  QLabel* mark_ = nullptr;        // tells the mark at the caret in words
-  Control* lastFocus_ = nullptr;  // where Tab goes on from
+  QLabel* mark_ = nullptr;        // names the mark at the caret
+  Control* lastFocus_ = nullptr;  // where Tab continues from
   UnsavedCopies* copies_ = nullptr;
 };
 

@@ -36,7 +36,7 @@ void Updates::PropertyChanged(Control& control, PropertyId /*property*/) {
   Touch(control);
   if (&control == &form_ || &control == &form_.User_Dialogue) windowChanged_ = true;
   if (control.Kind() != Kind::kMenuItem) return;
-  // Whether a title can be reached decides for the items under it.
+  // The items under a menu title are in reach only if the title is.
   for (const auto& [other, binder] : binders_) {
     if (&form_.ContainerOf(*other) == &control) touched_.insert(binder);
   }

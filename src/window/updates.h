@@ -1,4 +1,4 @@
-// What the model says, gathered until it is shown: at the end of an action and before a dialog.
+// Collects the model's changes until they are shown: at the end of an action and before a dialog.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@ namespace quill {
 
 class Updates final : public Watcher {
  public:
-  // `show` is called before a dialog opens, `leaves` before another text takes the text's place.
+  // `show` is called before a dialog opens, `leaves` before another text replaces the text.
   Updates(Form1& form, std::function<void()> show, std::function<void()> leaves);
   ~Updates() override;
 

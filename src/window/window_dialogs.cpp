@@ -28,7 +28,7 @@
 namespace quill {
 namespace {
 
-// Paths are bytes to the program, text to the toolkit.
+// To the program paths are bytes, to the toolkit text.
 QString PathToQt(const std::u32string& path) {
   return QFile::decodeName(QByteArray::fromStdString(EncodePath(path)));
 }
@@ -36,7 +36,7 @@ std::u32string PathFromQt(const QString& path) {
   return DecodePath(QFile::encodeName(path).toStdString());
 }
 
-// Also where one is a link to the other, or spelled in another way.
+// True also if one is a link to the other or merely spelled differently.
 bool IsOneFile(const QString& path, const QString& other) {
   const auto native = [](const QString& name) {
     return std::filesystem::path(QFile::encodeName(name).toStdString());
@@ -47,7 +47,7 @@ bool IsOneFile(const QString& path, const QString& other) {
              QDir::cleanPath(QFileInfo(other).absoluteFilePath());
 }
 
-// The text of a window and the term selected in it, on the screen.
+// Where the text and the selected term are on the screen.
 struct Asked {
   QRect text;
   QRect term;
@@ -67,10 +67,10 @@ std::optional<Asked> AskedIn(const QWidget& window) {
                onScreen(*view->viewport(), view->cursorRect(begin).united(view->cursorRect(end)))};
 }
 
-// A question about the selected term that only its buttons answer. It leaves the text free where
-// the screen has room beside it, and at least the term and the lines around it. The wheel scrolls
-// the text meanwhile, which the toolkit grants to no window behind a modal one: so this one only
-// refuses all other input to the window.
+// A question about the selected term, answered only by its buttons. It leaves the text free if the
+// screen has room beside it, else at least the term and the lines around it. The wheel still
+// scrolls the text. The toolkit allows that to no window behind a modal one, so this box is not
+// modal but refuses all other input to the window.
 class Question : public QMessageBox {
  public:
   explicit Question(QWidget* parent) : QMessageBox(parent) {
@@ -95,7 +95,7 @@ class Question : public QMessageBox {
     QMessageBox::showEvent(event);
     const std::optional<Asked> asked = AskedIn(*parentWidget());
     if (!asked) return;
-    // The frame comes with the window manager, later, and some put it around the place given.
+    // The window manager adds the frame later, and some add it around the given place.
     const QWidget& window = *parentWidget()->window();
     const QPoint frame = window.geometry().topLeft() - window.frameGeometry().topLeft();
     const QSize framed = size() + QSize(2 * frame.x(), frame.x() + frame.y());
@@ -133,7 +133,7 @@ QMessageBox::Icon IconOf(MessageBox::Icon icon) {
   }
 }
 
-// Title bars cut a title that has no room beside their buttons, and are set in type of their own.
+// Title bars have their own font and cut a title that does not fit beside their buttons.
 int WidthOfTitle(const QString& title) {
   constexpr int kIconAndButtons = 140;
   QFont font = QFontDatabase::systemFont(QFontDatabase::TitleFont);
@@ -146,7 +146,7 @@ int Run(QMessageBox& box, QMessageBox::Icon icon, const QString& prompt, const Q
   box.setTextFormat(Qt::PlainText);
   box.setText(prompt);
   box.setWindowTitle(title);
-  // A box takes its size from what it contains and from nothing else.
+  // A message box takes its size only from its contents.
   auto& grid = dynamic_cast<QGridLayout&>(*box.layout());
   grid.addItem(new QSpacerItem(WidthOfTitle(title), 0), grid.rowCount(), 0, 1, grid.columnCount());
   return box.exec();
@@ -180,7 +180,7 @@ std::optional<std::u32string> WindowDialogs::ShowSave(const std::u32string& titl
                                                       const std::u32string& filter,
                                                       const std::u32string& proposed) {
   const NoWaitingCursor arrow;
-  // Without a name the path would be the folder's own, and its folder the one above.
+  // Without a name, the path would be that of the folder, and its folder the one above.
   QString folder = StartFolder();
   QString name;
   if (!proposed.empty()) {
@@ -193,7 +193,7 @@ std::optional<std::u32string> WindowDialogs::ShowSave(const std::u32string& titl
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters(ToolkitFilters(filter));
-    // The question comes below, when the extension is known.
+    // The program asks below, when the extension is known.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
@@ -263,7 +263,7 @@ Button WindowDialogs::MsgBox(const MessageBox& box) {
 }
 
 QPoint PlaceOfQuestion(QSize size, const QRect& text, const QRect& term, const QRect& screen) {
-  // The same place for every term where that can be: the mouse may rest on a button.
+  // The same place for every term if possible: the mouse may rest on a button.
   const int middle = text.center().x() - size.width() / 2;
   const int left = std::max(std::min(middle, screen.right() + 1 - size.width()), screen.left());
   const int lines = 3 * term.height();
@@ -285,7 +285,7 @@ QStringList ToolkitFilters(const std::u32string& filter) {
       pattern = pattern.trimmed();
       if (pattern == QLatin1String("*.*")) pattern = QStringLiteral("*");
     }
-    // The toolkit takes the last brackets of the label for the patterns.
+    // The toolkit would read the last brackets of the label as the patterns.
     QString label = parts[i];
     const qsizetype bracket = label.lastIndexOf(QLatin1Char('('));
     if (bracket > 0) label.truncate(bracket);

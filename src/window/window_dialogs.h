@@ -10,16 +10,17 @@ namespace quill {
 
 class WindowDialogs final : public Dialogs {
  public:
-  // Before the first dialog: the window over which they open. Both must outlive the dialogs' use.
+  // Call this before the first dialog, with the window over which dialogs open. Both must outlive
+  // the use of the dialogs.
   void Attach(QWidget& window, const Form1& form);
 
-  // The next open dialog is answered with that path and not shown: a text given at the start.
+  // Answers the next open dialog with that path, without showing it: for a text given at startup.
   void ChooseNext(const QString& path) { chosen_ = path; }
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,
                                          const std::u32string& filter) override;
-  // Does not take the file that the text came from, unless that is a working copy. Asks before
-  // another file is overwritten, unless it is the working copy on show.
+  // Does not accept the file that the text came from, unless that is a working copy. Asks before
+  // overwriting another file, unless it is the current working copy.
   std::optional<std::u32string> ShowSave(const std::u32string& title, const std::u32string& filter,
                                          const std::u32string& proposed) override;
   Button MsgBox(const MessageBox& box) override;
@@ -36,15 +37,15 @@ class WindowDialogs final : public Dialogs {
   const Form1* form_ = nullptr;
 };
 
-// Where a question about a term stands, frame included, all in pixels of the screen: below or above
-// the text, or else below or above the term, with some lines between them where there is room.
+// The place of a question about a term, frame included, in screen pixels: below or above the text,
+// or else below or above the term, with some lines between if there is room.
 QPoint PlaceOfQuestion(QSize size, const QRect& text, const QRect& term, const QRect& screen);
 
-// The filters of a file dialog as the toolkit wants them: "label (patterns)", where "*.*" stands
-// for every file.
+// The filters of a file dialog in the toolkit's form, "label (patterns)", where "*.*" means every
+// file.
 QStringList ToolkitFilters(const std::u32string& filter);
 
-// The path, with the extension of the filter where it has none.
+// The path, with the filter's extension added if it has none.
 QString WithExtension(const QString& path, const QString& toolkitFilter);
 
 }  // namespace quill

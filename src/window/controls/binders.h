@@ -11,7 +11,7 @@ class QWidget;
 
 namespace quill {
 
-// Each makes the widget of a control inside `container`, and its binder.
+// Each creates the widget of a control inside `container`, and its binder.
 std::unique_ptr<Binder> BindButton(CommandButton& button, QWidget& container, Actions& actions);
 std::unique_ptr<Binder> BindComboBox(ComboBox& combo, QWidget& container, Actions& actions);
 std::unique_ptr<Binder> BindFrame(Frame& frame, QWidget& container, Actions& actions);
@@ -19,8 +19,8 @@ std::unique_ptr<Binder> BindLabel(Label& label, QWidget& container, Actions& act
 std::unique_ptr<Binder> BindListBox(ListBox& list, QWidget& container, Actions& actions);
 std::unique_ptr<Binder> BindTextBox(TextBox& box, QWidget& container, Actions& actions);
 
-// The one of the control's kind. Controls that have no widget of their own in a container (menu
-// items, the dialog, the text) are none of its business.
+// The binder for the control's kind. Not for controls without a widget in a container: menu items,
+// the dialog, the text.
 std::unique_ptr<Binder> MakeBinder(Control& control, QWidget& container, Actions& actions);
 
 }  // namespace quill

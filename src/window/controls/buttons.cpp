@@ -1,4 +1,4 @@
-// Buttons, drawn flat, in their own colour where they show one, with captions that wrap.
+// Buttons, drawn flat, in their own colour if they have one, with captions that wrap.
 #include "window/controls/binders.h"
 
 #include <QKeyEvent>
@@ -30,7 +30,7 @@ class CaptionButton : public QPushButton {
   }
 
  protected:
-  // The toolkit's arrow keys lead from button to button.
+  // In the toolkit, arrow keys move from button to button.
   void keyPressEvent(QKeyEvent* event) override {
     const int key = event->key();
     const bool arrow =
@@ -62,7 +62,7 @@ class CaptionButton : public QPushButton {
     painter.setPen(QPen(Mixed(palette().color(QPalette::Highlight), Qt::black, 0.8), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(edge.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-    // Without it the ring is lost on a face of its own colour or of red.
+    // Without it the ring would not show on a face of the same colour or on red.
     painter.setPen(Qt::white);
     painter.drawRoundedRect(edge.adjusted(2, 2, -2, -2), kRadius - 1, kRadius - 1);
   }

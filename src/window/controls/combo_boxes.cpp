@@ -14,7 +14,8 @@
 namespace quill {
 namespace {
 
-// Rows are picked by hand only: the wheel over a closed box means to scroll something else.
+// Rows are picked deliberately only: turning the wheel over a closed box is meant to scroll
+// something else.
 class Combo : public QComboBox {
  public:
   using QComboBox::QComboBox;
@@ -53,7 +54,8 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QComboBox& widget, Actions& acti
   QLineEdit& line = *widget.lineEdit();
   line.setAccessibleName(widget.accessibleName());
   widget.view()->setAccessibleName(widget.accessibleName());
-  // The toolkit picks the row that reads like the line when Enter is pressed or the line is left.
+  // When Enter is pressed or the line loses the focus, the toolkit would pick the row with the same
+  // text.
   QObject::disconnect(&line, &QLineEdit::editingFinished, nullptr, nullptr);
   QObject::connect(&line, &QLineEdit::textEdited, &widget,
                    [this](const QString& now) { Edited(now); });
@@ -106,7 +108,7 @@ void ComboBoxBinder::ShowLine() {
 }
 
 void ComboBoxBinder::FitLine() {
-  // Beside the arrow there is hardly room for the longest rows.
+  // The longest rows barely fit beside the arrow.
   constexpr int kArrowAndEdges = 28;
   const QSize room(widget_.width() - kArrowAndEdges, widget_.height());
   QLineEdit& line = *widget_.lineEdit();

@@ -1,4 +1,4 @@
-// Frames, which group controls and cover what lies behind them, and labels.
+// Frames, which group controls and cover whatever is behind them, and labels.
 #include "window/controls/binders.h"
 
 #include <QAccessibleWidget>
@@ -21,7 +21,7 @@ class Panel : public QGroupBox {
  public:
   Panel(QWidget& parent, const QColor& background, const QColor& text)
       : QGroupBox(&parent), background_(background), text_(text) {
-    // What it contains takes up its colour; boxes keep their own.
+    // Its contents take its colour; boxes keep theirs.
     QPalette colours = palette();
     colours.setColor(QPalette::Window, background);
     setPalette(colours);
@@ -44,8 +44,8 @@ class Panel : public QGroupBox {
   QColor text_;
 };
 
-// A panel behind another is shown as far as the toolkit can tell: what none of it is seen of is
-// not announced either.
+// To the toolkit, a panel behind another one is visible. A panel that is wholly covered must not be
+// announced.
 class SpokenPanel final : public QAccessibleWidget {
  public:
   explicit SpokenPanel(QWidget& panel) : QAccessibleWidget(&panel, QAccessible::Grouping) {}

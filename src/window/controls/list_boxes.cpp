@@ -1,7 +1,7 @@
-// List boxes: quick with as many items as a list can hold. What is highlighted is the list's own
-// ListIndex: a left click on a row and the keys that move or find a row are a user's choice, and
-// nothing else selects. The selected item is scrolled into view whenever the program selects it,
-// and the view scrolls sideways to the end of the longest.
+// List boxes, fast with as many items as a list can hold. The highlighted row is the list's
+// ListIndex: the user chooses by a left click on a row or by the keys that move to or find a row,
+// and nothing else selects. The selected item is scrolled into view whenever the program selects
+// it, and the view scrolls sideways to the end of the longest item.
 #include "window/controls/binders.h"
 
 #include <QAbstractListModel>
@@ -33,10 +33,10 @@ namespace {
 struct ItemChange {
   bool inserted = false;  // else removed
   int index = 0;
-  int weight = 0;  // of the text inserted: a measure of its width
+  int weight = 0;  // of the inserted text: a measure of its width
 };
 
-// A wide character, as of Chinese, takes the room of two.
+// A wide character, such as a Chinese one, takes the room of two.
 constexpr char32_t kFirstWide = 0x1100;
 
 int Weight(std::u32string_view item) {
@@ -45,7 +45,7 @@ int Weight(std::u32string_view item) {
              std::count_if(item.begin(), item.end(), [](char32_t c) { return c >= kFirstWide; }));
 }
 
-// In one line: behind an end of line the toolkit would leave the rest of the item out.
+// In one line: the toolkit would leave out the rest of an item after a line end.
 QString Shown(std::u32string_view item) {
   QString line = ToQt(item);
   for (const char16_t end : {u'\n', u'\r', u'\u2028', u'\u2029'}) line.replace(end, u' ');
@@ -53,8 +53,8 @@ QString Shown(std::u32string_view item) {
 }
 
 // The items of the list, without a copy: what was shown last differs from the list only by changes
-// that are to be followed before anything is painted. All rows tell the size of the largest, so
-// that the view need not ask each one.
+// that are followed before anything is painted. All rows report the size of the largest, so that
+// the view need not ask each one.
 class Rows : public QAbstractListModel {
  public:
   Rows(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
@@ -115,13 +115,13 @@ class Rows : public QAbstractListModel {
   QSize size_;
 };
 
-// What of the rows is selected. The toolkit selects at clicks, keys and changes of the rows; here
-// it selects nothing, and what is shown as selected is what the binder says.
+// The selected row. The toolkit's own selecting, on clicks, keys and changes of the rows, is off:
+// what shows as selected is what the binder says.
 class Selection : public QItemSelectionModel {
  public:
   using QItemSelectionModel::QItemSelectionModel;
 
-  // An invalid row is none.
+  // An invalid row selects none.
   void Show(const QModelIndex& row) {
     if (!row.isValid()) return Drop();
     QItemSelectionModel::select(QItemSelection(row, row), ClearAndSelect);
@@ -149,7 +149,7 @@ bool IsPlain(Qt::KeyboardModifiers modifiers) {
   return (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
 }
 
-// Tells which item the user chose, with the mouse or with the keys. It reads mouse and keys itself.
+// Reports the item that the user chooses with mouse or keys, which it reads itself.
 class ListView : public QListView {
  public:
   ListView(QWidget& parent, const ListBox& list)
@@ -190,7 +190,7 @@ class ListView : public QListView {
         typing_.isValid() && typing_.elapsed() < QApplication::keyboardInputInterval();
     typing_.start();
     wanted_ = goesOn ? wanted_ + typed : typed;
-    // A letter typed over and over goes through the rows that begin with it.
+    // Typing one letter repeatedly goes through the rows that begin with it.
     const bool again = wanted_.count(wanted_.front()) == wanted_.size();
     const int from = std::max<int>(list_.ListIndex, 0) + (again && list_.ListIndex >= 0 ? 1 : 0);
     const QModelIndexList found =
@@ -253,7 +253,7 @@ class ListView : public QListView {
 
   int RowAt(const QMouseEvent& event) const { return indexAt(event.position().toPoint()).row(); }
 
-  // Where a key goes from the selected item; from none, to the first.
+  // Where a key leads from the selected item; with none selected, to the first.
   std::optional<int> Goal(int key) const {
     const int row = list_.ListIndex;
     const int page = std::max(viewport()->height() / std::max(rows_->Height(), 1) - 1, 1);
@@ -306,7 +306,7 @@ class ListBoxBinder final : public WidgetBinder {
  private:
   ListBoxBinder(ListBox& list, ListView& view, Actions& actions);
 
-  // More changes than these are shown as a new list.
+  // More changes than this are shown as a new list.
   static constexpr std::size_t kMostSingleChanges = 8;
 
   ListBox& list_;
@@ -336,7 +336,7 @@ void ListBoxBinder::Show() {
   }
   changes_.clear();
   view_.ShowSelected();
-  // Also where it was selected already: the user may have scrolled it away.
+  // Even if it was already selected: the user may have scrolled it out of view.
   view_.ScrollToSelected();
 }
 

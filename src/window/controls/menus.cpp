@@ -20,7 +20,7 @@ class MenuItemBinder final : public Binder {
     action.setMenuRole(QAction::NoRole);
   }
 
-  // A disabled title closes off the items under it.
+  // A disabled title puts the items under it out of reach.
   void Show() override { action_.setEnabled(item_.IsInReach()); }
 
  private:

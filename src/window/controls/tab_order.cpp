@@ -3,8 +3,8 @@
 namespace quill {
 namespace {
 
-// Boxes that empty themselves come behind what is done with their words, and what a tag needs comes
-// before what only shows it.
+// Boxes that empty themselves come after the buttons that use their words, and what a tag needs
+// comes before what only shows it.
 constexpr std::string_view kTabOrder[] = {
     "UserID1", "SessionID", "CloseIDFrame", "Close_Info", "RichTextBox1", "User_Dialogue",
     // Pre-processing

@@ -1,4 +1,4 @@
-// Text boxes, of one line and of several.
+// Text boxes, single-line and multi-line.
 #include "window/controls/binders.h"
 
 #include <QFont>
@@ -14,7 +14,7 @@
 namespace quill {
 namespace {
 
-// What both kinds share: colours and weight, and the way of an edit into the model.
+// What both kinds share: colours, weight, and how an edit gets into the model.
 class TextBoxBinder : public WidgetBinder {
  public:
   void Show() override;
@@ -23,14 +23,14 @@ class TextBoxBinder : public WidgetBinder {
   TextBoxBinder(TextBox& box, QWidget& widget, Actions& actions);
 
   TextBox& Box() const { return box_; }
-  // The user made `now` of what the widget showed.
+  // The user has turned what the widget showed into `now`.
   void Forward(std::u32string_view shown, std::u32string_view now);
 
  private:
   void ShowLook();
 
   TextBox& box_;
-  // As last shown: a change of font lays out the whole text.
+  // As last shown: a change of font lays out the whole text again.
   std::optional<Colour> background_;
   std::optional<Colour> foreground_;
 };
@@ -55,7 +55,7 @@ class SeveralLinesBinder final : public TextBoxBinder {
 
  private:
   SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions);
-  // Whether the box opens with the program's own words.
+  // Whether the box has text at startup.
   bool HasStoredText() const;
   QFont FontForStoredText() const;
 
@@ -69,7 +69,7 @@ void TextBoxBinder::Forward(std::u32string_view shown, std::u32string_view now) 
   if (TheActions().Running()) return;
   const std::u32string edited = ForwardEdit(box_.Text.Get(), shown, now);
   TheActions().Do([&](Program& program) { program.Edit(box_, edited); });
-  // Also where the program took nothing of it.
+  // Even if the program took none of it.
   Show();
 }
 
@@ -83,7 +83,8 @@ void TextBoxBinder::ShowLook() {
     background_ = box_.BackColor.Get();
     foreground_ = box_.ForeColor.Get();
     const QColor background = ToQColor(*background_);
-    // The lemma takes the colour of its kind: the system's text colour gives way on a dark one.
+    // The lemma has its kind's colour as background: on a dark one, the system's text colour gives
+    // way.
     const bool own = *foreground_ != kWindowText || IsSystemColour(*background_);
     SetColours(*Widget(), background, own ? ToQColor(*foreground_) : TextOn(background));
   }
@@ -110,11 +111,11 @@ void OneLineBinder::Show() {
   const QString text = ToQt(Box().Text.Get());
   if (line_.text() == text) return;
   line_.setText(text);
-  // Where nobody types, the beginning says more than the end.
+  // While nobody types, the beginning says more than the end.
   line_.setCursorPosition(line_.hasFocus() ? static_cast<int>(text.size()) : 0);
 }
 
-// The user goes on behind what the program wrote.
+// The user continues after what the program wrote.
 void OneLineBinder::TakeFocus() {
   WidgetBinder::TakeFocus();
   line_.end(false);
@@ -138,7 +139,7 @@ bool SeveralLinesBinder::HasStoredText() const {
   return Box().Name() == "Infotext" || Box().Name() == "User_Dialogue";
 }
 
-// The stored text says how it is meant to be read: as a whole or, where the box scrolls, by lines.
+// The stored text is meant to fit as a whole or, in a box that scrolls, line by line.
 QFont SeveralLinesBinder::FontForStoredText() const {
   const QString text = ToQt(Box().Row().text);
   constexpr QSize kMargins(12, 10);

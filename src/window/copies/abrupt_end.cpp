@@ -25,7 +25,7 @@ void NoteSignal(int signal) {
   errno = reason;
 }
 
-// What a parent had ignored stays ignored.
+// A signal that the parent process ignored stays ignored.
 void Handle(int signal) {
   struct sigaction action = {};
   sigaction(signal, nullptr, &action);

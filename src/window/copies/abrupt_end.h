@@ -1,5 +1,5 @@
-// The ends of the program that come from outside: SIGTERM, SIGHUP and SIGINT, and a display that
-// goes away, upon which the toolkit leaves the process.
+// Ends of the program that come from outside: SIGTERM, SIGHUP and SIGINT, and a display that goes
+// away, whereupon the toolkit exits the process.
 #pragma once
 
 #include <QSocketNotifier>
@@ -8,8 +8,9 @@
 
 namespace quill {
 
-// While it lives, such an end comes after a last piece of work, done between two events. A signal
-// then ends the process as it would have; the same signal once more does so at once. One at a time.
+// While it lives, a last piece of work is done before such an end, between two events. The signal
+// then ends the process as it would have otherwise; a second one does so at once. Only one may
+// exist at a time.
 class AbruptEnd {
  public:
   explicit AbruptEnd(std::function<void()> last);

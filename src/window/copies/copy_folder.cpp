@@ -25,8 +25,8 @@ namespace fs = std::filesystem;
 constexpr std::size_t kMostTexts = 20;
 constexpr std::time_t kDay = 24L * 3600;
 constexpr std::time_t kLongestAge = 30 * kDay;
-// Whoever opens the working copy after a crash, walks through it and closes it leaves a newer copy
-// than the one that holds the lost marks.
+// After a crash, opening the working copy, walking through it and closing it leaves a copy that is
+// newer than the one with the lost marks.
 constexpr std::time_t kGrace = kDay;
 constexpr std::string_view kExtension = ".rtf";
 constexpr std::string_view kLabelEnding = ".lock";
@@ -36,7 +36,7 @@ std::string LabelPath(const std::string& copy) {
   return folder + "." + copy.substr(folder.size()) + std::string(kLabelEnding);
 }
 
-// The name of the copy that a label stands for; empty for other files.
+// The name of the copy that a label belongs to; empty for other files.
 std::string CopyOfLabel(const std::string& name) {
   const std::string ending = std::string(kExtension) + std::string(kLabelEnding);
   if (!name.starts_with('.') || !name.ends_with(ending)) return {};
@@ -49,14 +49,14 @@ bool Lock(const Descriptor& label, int operation) {
   return result == 0;
 }
 
-// Whether the label is still there: another program may have taken it away before it was locked.
+// Whether the label still exists: another program may have removed it before it was locked.
 bool IsInPlace(const Descriptor& label, const std::string& path) {
   struct stat there = {};
   return lstat(path.c_str(), &there) == 0 && IsSameFile(there, label.Status());
 }
 
-// The name of a text's copy without what tells copies of the same minute apart. It leaves room for
-// the label and the temporary file within what a file system takes.
+// The name of a text's copy, without the part that distinguishes copies of the same minute. It is
+// short enough for the file system to take the names of the label and the temporary file, too.
 std::string CopyName(const std::string& textPath) {
   constexpr std::size_t kLongest = NAME_MAX - 80;
   std::string name = fs::path(textPath).stem().string();
@@ -84,7 +84,7 @@ void MakeFolder(const std::string& path) {
   if (errno != EEXIST) FailDisk(path, "made");
 }
 
-// Makes the folder where it is missing and closes it to others.
+// Creates the folder if it is missing, and makes it private.
 void MakePrivateFolder(const std::string& path) {
   if (path.empty()) throw StatementFailed("there is no folder for the state of programs");
   MakeFolder(path);
@@ -97,7 +97,7 @@ void MakePrivateFolder(const std::string& path) {
   }
 }
 
-// When the copy was last written; nothing where it is not there.
+// When the copy was last written; nothing if it does not exist.
 std::optional<std::time_t> TimeOf(const UnsavedCopy& copy) {
   struct stat status = {};
   if (lstat(copy.Path().c_str(), &status) != 0) return std::nullopt;
@@ -127,7 +127,7 @@ void UnsavedCopy::Remove() {
 void UnsavedCopy::RemoveFiles() const {
   unlink(path_.c_str());
   unlink(TemporaryPath(path_).c_str());
-  // Opening the copy as a text made them.
+  // These were created when the copy was opened as a text.
   const std::string base = path_.substr(0, path_.size() - kExtension.size());
   for (const char* const extension : {".tlf", ".spd"}) RemoveIfEmpty(base + extension);
   unlink(LabelPath(path_).c_str());

@@ -1,9 +1,9 @@
 // The folder of the copies of unsaved texts.
 //
-// A copy is named after its text and the time, `the-ferry (2026-11-23 14.05).rtf`. Beside it lies
-// its label, `.NAME.lock`, which holds the path of the text. Every program that writes a copy or
-// has it open holds a lock on the label: copies without one are those that were left behind, and
-// only they are ever taken away. Files without a label are the user's own and are not touched.
+// A copy is named after its text and the time, `the-ferry (2026-11-23 14.05).rtf`. Beside it is its
+// label, `.NAME.lock`, which holds the path of the text. Every program that writes a copy or has it
+// open holds a lock on the label: copies without a lock were left behind, and only those are ever
+// removed. Files without a label are the user's and are not touched.
 //
 // Copies are replaced as a whole but not flushed: they survive the end of the program.
 #pragma once
@@ -18,16 +18,16 @@
 
 namespace quill {
 
-// A copy that is in use as long as this lives.
+// A copy, in use while this object lives.
 class UnsavedCopy {
  public:
   const std::string& Path() const { return path_; }
-  // Of the text that it is a copy of; empty for a text that never had a file.
+  // The path of the text that was copied; empty for a text that never had a file.
   const std::string& TextPath() const { return textPath_; }
 
-  // Replaces the content. Throws StatementFailed with the old content whole.
+  // Replaces the content. On failure throws StatementFailed, with the old content intact.
   void Write(std::string_view bytes) const;
-  // Takes it away, unless another program has it open. It is not in use any more.
+  // Removes the copy, unless another program has it open. Afterwards it is no longer in use.
   void Remove();
 
  private:
@@ -44,16 +44,16 @@ class UnsavedCopy {
 
 class CopyFolder {
  public:
-  // The folder need not exist. Without a path nothing can be kept.
+  // The folder need not exist. With an empty path nothing can be kept.
   explicit CopyFolder(std::string path) : path_(std::move(path)) {}
 
-  // A new copy, empty yet, that no other program writes. Makes the folder, for the user alone.
-  // Throws StatementFailed; a folder that is a link or belongs to somebody else is refused.
+  // A new, empty copy that no other program writes. Creates the folder, for the user alone. Throws
+  // StatementFailed; a folder that is a link or belongs to another user is refused.
   UnsavedCopy Make(const std::string& textPath) const;
-  // The copy that lies at a path; nothing where it is none of this folder.
+  // The copy at a path; nothing if it is not a copy in this folder.
   std::optional<UnsavedCopy> Use(const std::string& path) const;
-  // Of the copies that are not in use, the newest of each text stays, of twenty texts at most, for
-  // thirty days; an older one goes a day after the newer one was written. Never fails.
+  // Of the copies not in use, keeps the newest of each text, for at most twenty texts and for
+  // thirty days, and removes an older one a day after the newer one was written. Never fails.
   void Prune() const;
 
  private:
@@ -63,7 +63,7 @@ class CopyFolder {
   std::string path_;
 };
 
-// `quillorandix` in the user's folder for the state of programs; empty where there is none.
+// `quillorandix` in the user's state folder; empty if there is none.
 std::string UserCopyFolder();
 
 }  // namespace quill

@@ -73,7 +73,7 @@ void UnsavedCopies::Drop() {
   timer_.stop();
   AwaitWriting();
   copied_.reset();
-  // A user may have saved over the copy itself.
+  // The user may have saved over the copy itself.
   if (copy_ && copy_->Path() != EncodePath(path_)) copy_->Remove();
   copy_.reset();
 }
@@ -83,7 +83,7 @@ void UnsavedCopies::WriteInPause() {
   if (!HasWritten(std::chrono::milliseconds(0))) return timer_.start(pace_.pause);
   writing_ = std::async(std::launch::async,
                         [this, document = Text().Doc(), textPath = TextPath()]() mutable {
-                          // It goes with the thread.
+                          // Destroyed in the thread.
                           const Document text = std::move(document);
                           return Write(text, textPath);
                         });

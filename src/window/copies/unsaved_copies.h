@@ -1,10 +1,10 @@
-// Keeps a copy of the text on show in a folder of the user's as long as it has changes that are not
-// saved: in a pause of the user's, soon after a change at the latest, and when the text leaves the
-// window. A save takes the copy away.
+// While the text has unsaved changes, keeps a copy of it in a folder of the user's. The copy is
+// written when the user pauses, at the latest some time after a change, and when the text leaves
+// the window. A save removes it.
 //
-// Only reads the model. In a pause the copy is written by a thread of its own, from a duplicate of
-// the document. A folder that cannot be written is told once on standard error, and nothing else
-// comes of it.
+// Only reads the model. In a pause, a separate thread writes the copy, from a duplicate of the
+// document. A folder that cannot be written is reported once, on standard error, and has no other
+// effect.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -31,27 +31,27 @@ class UnsavedCopies {
   // The form must outlive them.
   UnsavedCopies(const Form1& form, std::string folder);
   UnsavedCopies(const Form1& form, std::string folder, Pace pace);
-  // The text leaves with them.
+  // Counts as the text leaving the window.
   ~UnsavedCopies();
   UnsavedCopies(const UnsavedCopies&) = delete;
   UnsavedCopies& operator=(const UnsavedCopies&) = delete;
 
-  // To be called when an action has ended or a dialog opens.
+  // Call this when an action has ended or a dialog opens.
   void Look();
-  // To be called before another text takes the place of this one.
+  // Call this before another text replaces this one.
   void TextLeaves();
-  // Returns when the unsaved text has its copy. For the end of the program.
+  // Returns once the unsaved text has its copy. For the end of the program.
   void Take();
 
  private:
   const TextSurface& Text() const { return form_.RichTextBox1; }
   bool MustWrite() const;
   void FollowPath();
-  // The path of the text on show; of a copy that was opened, that of its text.
+  // The path of the text; if that is an opened copy, the path of the text that it was copied from.
   std::string TextPath() const;
   void Drop();
   void WriteInPause();
-  // Whether no thread writes any more.
+  // Whether no thread is writing any longer.
   bool HasWritten(std::chrono::milliseconds wait);
   void AwaitWriting();
   bool Write(const Document& document, const std::string& textPath);
@@ -61,12 +61,12 @@ class UnsavedCopies {
   const CopyFolder folder_;
   const Pace pace_;
   QTimer timer_;
-  QDeadlineTimer latest_;                // for the first change that the copy lacks
-  std::optional<std::uint64_t> copied_;  // what the document had counted when it was copied
+  QDeadlineTimer latest_;                // for the first change missing from the copy
+  std::optional<std::uint64_t> copied_;  // the document's count of changes when copied
   std::u32string path_;                  // of the text on show
-  std::optional<UnsavedCopy> opened_;    // the text on show, where that is a copy itself
+  std::optional<UnsavedCopy> opened_;    // the text itself, if it is a copy
   std::future<bool> writing_;
-  // The thread's as long as it writes.
+  // Belongs to the thread while that writes.
   std::optional<UnsavedCopy> copy_;
   bool told_ = false;
 };

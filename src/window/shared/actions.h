@@ -1,5 +1,5 @@
-// The way from the user's hands to the program: one action at a time, and what came of it is shown
-// before the next.
+// How the user's actions reach the program: one at a time, each one's effects shown before the
+// next.
 #pragma once
 
 #include <functional>
@@ -10,16 +10,16 @@ namespace quill {
 
 class Actions {
  public:
-  // `show` brings the widgets up to the model, `ended` runs once the program has ended.
+  // `show` updates the widgets from the model; `ended` runs once the program has ended.
   Actions(Program& program, std::function<void()> show, std::function<void()> ended);
 
-  // Runs an action to its end. Does nothing while another one runs: what a widget tells while the
-  // program writes to it, or behind a modal dialog, is no action of the user. A bug ends the
-  // process with a message, as an exception may not cross the toolkit.
+  // Runs an action to its end. Does nothing while another one runs: what a widget reports while the
+  // program writes to it, or behind a modal dialog, is not an action of the user. A bug ends the
+  // process with a message, because no exception may cross the toolkit.
   void Do(const std::function<void(Program&)>& action);
 
-  // A click on a button or a menu item. What reads or writes files or searches the text shows the
-  // waiting cursor.
+  // A click on a button or a menu item. Actions that read or write files or search the text show
+  // the waiting cursor.
   void Click(CommandButton& button);
   void Click(MenuItem& item);
 

@@ -45,7 +45,7 @@ QColor OfSystem(Colour number) {
   }
 }
 
-// Relative luminance, for contrasts.
+// Relative luminance, for computing contrast.
 double Luminance(const QColor& colour) {
   const auto linear = [](double c) {
     return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
@@ -86,7 +86,7 @@ std::optional<QFont> Narrowed(QFont font, const Condition& fits) {
   return std::nullopt;
 }
 
-// The same, made smaller where narrowing is not enough, as far as it can be read.
+// The same, but made smaller if narrowing is not enough, while it stays legible.
 template <class Condition>
 QFont Fitted(QFont font, const Condition& fits) {
   for (int pixels = font.pixelSize(); pixels > kSmallestPixels; --pixels) {
@@ -111,7 +111,7 @@ Colour FromQColor(const QColor& colour) {
 }
 
 QColor TextOn(const QColor& background) {
-  // Bold white keeps its legibility down to about this contrast, and looks better on pure red.
+  // Bold white stays legible down to about this contrast, and looks better on pure red.
   constexpr double kEnough = 3.9;
   const double contrastOfWhite = 1.05 / (Luminance(background) + 0.05);
   return contrastOfWhite >= kEnough ? Qt::white : Qt::black;
@@ -168,7 +168,7 @@ Caption LayCaption(const QFont& font, const QString& text, const QRect& face) {
   const QRect wide = face.adjusted(5, 1, -5, -1);
   const auto fits = [&](const QFont& tried) { return Fits(tried, text, wide.size()); };
   if (const std::optional<QFont> narrowed = Narrowed(font, fits)) return {*narrowed, wide};
-  // Rather a narrow margin than small type.
+  // Better a narrow margin than small type.
   const QRect narrow = face.adjusted(2, 1, -2, -1);
   return {FittingFont(font, text, narrow.size()), narrow};
 }

@@ -1,5 +1,5 @@
-// A binder ties one control of the model to its widget: it sets the widget up from the catalogue,
-// hands the user's actions to the program, and shows what the model says.
+// A binder connects one control of the model with its widget: it sets the widget up from the
+// catalogue, passes the user's actions to the program, and shows the model's state.
 #pragma once
 
 class QWidget;
@@ -15,11 +15,11 @@ class Binder {
 
   // nullptr for a menu item.
   virtual QWidget* Widget() const { return nullptr; }
-  // Brings the widget up to the model; touches only what differs.
+  // Updates the widget from the model; touches only what differs.
   virtual void Show() = 0;
-  // Brings back what the toolkit may have done to the widget by itself, without scrolling.
+  // Undoes what the toolkit may have done to the widget on its own, without scrolling.
   virtual void ReadBack() { Show(); }
-  // Gives the widget the keyboard focus, as the program moved it there.
+  // Gives the widget the keyboard focus, after the program has moved it there.
   virtual void TakeFocus() {}
   // The items of a list have changed since it was last shown; in the order of the changes.
   virtual void ItemInserted(int /*index*/) {}

@@ -8,7 +8,7 @@ namespace quill {
 void TellWhole(const QHelpEvent& event, const QString& text, QWidget& widget) {
   constexpr qsizetype kMost = 2000;
   const QString told = text.size() > kMost ? text.left(kMost) + QChar(0x2026) : text;
-  // As rich text, which is broken into lines.
+  // As rich text, because the toolkit breaks only that into lines.
   const QString shown = QStringLiteral("<p style='white-space:pre-wrap'>%1</p>");
   QToolTip::showText(event.globalPos(), shown.arg(told.toHtmlEscaped()), &widget);
 }

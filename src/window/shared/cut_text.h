@@ -1,4 +1,4 @@
-// The tool tip of a text that does not fit where it stands.
+// The tool tip for text that does not fit its box or row.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,7 @@ class QWidget;
 
 namespace quill {
 
-// Shows a text at the mouse, in as many lines as it takes; of a very long one, the beginning.
+// Shows a text at the mouse, in as many lines as it takes; only the beginning if it is very long.
 void TellWhole(const QHelpEvent& event, const QString& text, QWidget& widget);
 
 }  // namespace quill

@@ -7,7 +7,7 @@
 namespace quill {
 
 void DrawEdge(QPainter& painter, const QRect& rect, const QColor& colour) {
-  // What a filled area covers is never less than one point of the screen.
+  // A filled area always covers at least one point of the screen.
   painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), 1), colour);
   painter.fillRect(QRectF(rect.left(), rect.bottom(), rect.width(), 1), colour);
   painter.fillRect(QRectF(rect.left(), rect.top(), 1, rect.height()), colour);

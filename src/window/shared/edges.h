@@ -1,6 +1,6 @@
-// The edges of boxes and panels, as thin as they can be seen and whole at every scale. A line of
-// one pixel that the toolkit strokes is lost at 125 and 150 % where it begins between two points of
-// the screen.
+// The edges of boxes and panels, as thin as can be seen and complete at every scale. At 125 and 150
+// %, a line of one pixel stroked by the toolkit vanishes if it starts between two points of the
+// screen.
 #pragma once
 
 #include <QProxyStyle>

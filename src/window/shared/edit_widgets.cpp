@@ -29,7 +29,7 @@ QString PlainText(const QMimeData& data) {
 bool HasPlainText(const QMimeData& data) { return data.hasText() || data.hasHtml(); }
 
 LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent) {
-  // It would cut at 32,767 characters.
+  // The default would cut text at 32,767 characters.
   setMaxLength(std::numeric_limits<int>::max());
 }
 
@@ -57,7 +57,7 @@ void LineEdit::keyPressEvent(QKeyEvent* event) {
   QLineEdit::keyPressEvent(event);
 }
 
-// The toolkit's own menu, but for what it pastes.
+// The toolkit's own menu, except for what it pastes.
 void LineEdit::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* const menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -82,7 +82,7 @@ bool SeveralLinesEdit::event(QEvent* event) {
 }
 
 void SeveralLinesEdit::mousePressEvent(QMouseEvent* event) {
-  // A press on selected characters would begin to drag them.
+  // A press on selected characters would start dragging them.
   if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
     QTextCursor cursor = textCursor();
     cursor.clearSelection();

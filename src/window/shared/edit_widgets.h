@@ -1,6 +1,6 @@
-// The widgets that text boxes and combo boxes are typed into. Their characters change by keys,
-// input methods and the context menu: the mouse drags nothing out of them, as a drag could take the
-// characters along. Text that does not fit is told by a tool tip.
+// The widgets for typing into text boxes and combo boxes. Their characters change only through
+// keys, input methods and the context menu: nothing can be dragged out of them, because a drag
+// could remove the characters. Text that does not fit is shown in a tool tip.
 #pragma once
 
 #include <QLineEdit>
@@ -10,8 +10,8 @@ class QMimeData;
 
 namespace quill {
 
-// What of a clipboard or a drop is text to type, also where it has formatted text alone: no
-// pictures, and paragraphs that end in U+000A.
+// The text to type from a clipboard or a drop, even if that has formatted text only: no pictures,
+// and paragraphs that end in U+000A.
 QString PlainText(const QMimeData& data);
 bool HasPlainText(const QMimeData& data);
 

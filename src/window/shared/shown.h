@@ -1,5 +1,5 @@
-// The program's strings and the toolkit's: conversions, and what is shown for characters that a
-// widget would take for something else.
+// Conversions between the program's strings and the toolkit's, and what is shown for characters
+// that a widget would misinterpret.
 #pragma once
 
 #include <QString>
@@ -14,21 +14,21 @@ namespace quill {
 QString ToQt(std::u32string_view text);
 std::u32string FromQt(const QString& text);
 
-// The character that a widget of several lines shows for one of the model's. Characters that
-// would make paragraphs of their own there become U+FFFD, and a picture becomes a square.
+// What a multi-line widget shows for a character of the model. Characters that would start a new
+// paragraph there become U+FFFD, and a picture becomes a square.
 char32_t ShownCharacter(char32_t character);
-// Character by character, so that positions stay.
+// Character by character, so positions do not change.
 std::u32string ShownText(std::u32string_view text);
-// The same where pictures are drawn (the character that stands for one stays) and in a typeface,
-// which may be one of symbols.
+// The same for a text whose pictures are drawn (their character stays) and in the given typeface,
+// which may be a symbol font.
 std::u32string ShownInText(std::u32string_view text, std::string_view font);
 
-// All characters of a document as they are, paragraph ends as U+000A. (Its plain text is no way to
-// them: there a no-break space comes back as a blank.)
+// All characters of a document as they are, paragraph ends as U+000A. (The toolkit's own plain text
+// turns no-break spaces into blanks.)
 std::u32string RawText(const QTextDocument& document);
 
-// The model's text after an edit that made `now` of what was shown of it. Characters that the edit
-// did not touch stay the model's own.
+// The model's text after an edit that turned `shown` into `now`. Characters that the edit did not
+// touch remain the model's.
 std::u32string ForwardEdit(std::u32string_view model, std::u32string_view shown,
                            std::u32string_view now);
 

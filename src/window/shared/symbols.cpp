@@ -9,7 +9,7 @@ namespace {
 constexpr char32_t kFirst = 0xF020;
 constexpr char32_t kLast = 0xF0FF;
 
-// The font Symbol, from 0x20 on; 0 where it has nothing.
+// The font Symbol, from 0x20 on; 0 for no character.
 constexpr char16_t kSymbol[] = {
     0x0020, 0x0021, 0x2200, 0x0023, 0x2203, 0x0025, 0x0026, 0x220B, 0x0028, 0x0029, 0x2217, 0x002B,
     0x002C, 0x2212, 0x002E, 0x002F, 0x0030, 0x0031, 0x0032, 0x0033, 0x0034, 0x0035, 0x0036, 0x0037,
@@ -33,7 +33,7 @@ constexpr char16_t kSymbol[] = {
 };
 static_assert(std::size(kSymbol) == kLast - kFirst + 1);
 
-// Those of Wingdings that Unicode has, in the order of their bytes.
+// The characters of Wingdings that Unicode has, in the order of their bytes.
 struct Dingbat {
   unsigned char byte;
   char16_t character;

@@ -1,4 +1,4 @@
-// The cursor that tells a user to wait.
+// The cursor that asks the user to wait.
 #pragma once
 
 #include <QApplication>
@@ -14,7 +14,7 @@ class WaitingCursor {
   ~WaitingCursor() { QApplication::restoreOverrideCursor(); }
 };
 
-// Takes it away while the program waits for the user.
+// Removes it while the program waits for the user.
 class NoWaitingCursor {
  public:
   NoWaitingCursor() : wasShown_(QApplication::overrideCursor() != nullptr) {

@@ -15,7 +15,7 @@ QString SpokenName(const CatalogueRow& row) {
 QString SpokenDescription(const CatalogueRow& row) {
   if (!row.stored.toolTip.empty()) return ToQt(row.stored.toolTip);
   if (!row.stored.purpose.empty()) return ToQt(row.stored.purpose);
-  // A note in a panel is what the panel has to say.
+  // A note inside a panel is the panel's description.
   for (const CatalogueRow& inside : Catalogue()) {
     if (inside.kind == Kind::kLabel && inside.container == row.name) return ToQt(inside.text);
   }
