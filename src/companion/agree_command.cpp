@@ -1,4 +1,4 @@
-// The figures of a comparison as a table to read or as CSV.
+// The figures of a comparison, as a readable table or as CSV.
 
 #include <array>
 #include <charconv>
@@ -14,7 +14,7 @@
 namespace quill::companion {
 namespace {
 
-constexpr int kCsvDigits = 12;  // behind the point
+constexpr int kCsvDigits = 12;  // after the decimal point
 constexpr int kTableDigits = 3;
 
 std::string Written(const Figure& figure, int digits) {
@@ -36,7 +36,7 @@ std::string CsvOf(const std::vector<Figure>& figures) {
   return table;
 }
 
-// A block for each pair and one for all readers; in a block a line for each field.
+// One block for each pair of readers and one for all of them; in each, one line per field.
 std::string TableOf(const std::vector<Figure>& figures) {
   constexpr std::size_t kFieldWidth = 14;
   constexpr std::size_t kFigureWidth = 19;

@@ -17,8 +17,8 @@ struct Overlap {
   std::size_t b;
 };
 
-// Readings are in order, so the spans of `b` that may reach a span of `a` begin behind those that
-// end before it. Ends need not be in order: the furthest end so far tells what can be passed over.
+// Readings are in order, so the spans of `b` that may reach a span of `a` come after those that end
+// before it. Ends need not be in order: the furthest end so far shows what can be skipped.
 std::vector<Overlap> FindOverlaps(const Reading& a, const Reading& b) {
   std::vector<Position> furthest(b.size());
   Position end = 0;
@@ -98,7 +98,7 @@ Matches MatchEqual(const Reading& a, const Reading& b) {
 
 Matches MatchOverlapping(const Reading& a, const Reading& b) {
   std::vector<Overlap> overlaps = FindOverlaps(a, b);
-  // They were found in the order of places, which decides between those that share as much.
+  // They were found in the order of places, which decides between those that share equally much.
   std::stable_sort(overlaps.begin(), overlaps.end(),
                    [](const Overlap& x, const Overlap& y) { return x.shared > y.shared; });
   std::vector<bool> takenA(a.size());
@@ -144,15 +144,15 @@ ReferenceAgreement CompareReferences(const Reading& a, const Reading& b, const M
   return agreement;
 }
 
-// In a unit with m labels every ordered pair of two readers counts 1/(m-1), so that each label
-// counts once. Pairs that differ are summed by m, which keeps the sums whole; of the n labels of
-// all units, n² - Σ(count of a label)² ordered pairs differ.
+// In a unit with m labels, every ordered pair of readers counts 1/(m-1), so that each label counts
+// once. Pairs that differ are summed separately for each m, which keeps the sums whole; of the n
+// labels of all units, n² - Σ(count of a label)² ordered pairs differ.
 Reliability MeasureReliability(std::span<const Reading> readings, std::size_t field) {
   const std::vector<Vote> votes = VotesBySpan(readings, field);
   Reliability reliability;
   LabelCounts all;
   Count labels = 0;
-  std::map<Count, Count> differing;  // by the number of a unit's labels
+  std::map<Count, Count> differing;  // by the number of labels in a unit
   for (auto begin = votes.begin(); begin != votes.end();) {
     const auto end = std::find_if(begin, votes.end(),
                                   [&](const Vote& vote) { return vote.span != begin->span; });

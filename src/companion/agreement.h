@@ -1,9 +1,9 @@
-// How far two or more readers of one text agree: on which spans they tag, and on what they say of
+// How far two or more readers of one text agree: on which spans to tag, and on what they say about
 // the spans that both tag.
 //
 // Every figure is computed from whole numbers and divided once, at the end. A figure that is not
-// defined (nothing to compare, or only one label in use, so that no chance agreement can be told
-// from a real one) is nullopt, never 0 or 1.
+// defined (there is nothing to compare, or only one label is used, so that chance and real
+// agreement cannot be told apart) is nullopt, never 0 or 1.
 #pragma once
 
 #include <array>
@@ -18,34 +18,34 @@
 
 namespace quill::companion {
 
-// A value of an enumerated field as a number: equal values, equal labels.
+// A value of an enumerated field as a number: equal labels for equal values.
 using Label = std::int32_t;
 constexpr Label kNotGiven = -1;
 
 struct Referred {
   bool given = false;
-  // Where the other term stands; empty where the tag names a term without a place. Such references
-  // are never the same: nobody can tell which occurrence is meant.
+  // The place of the other term; empty if the tag names a term without a place. Such references are
+  // never the same, since it is unknown which occurrence is meant.
   std::optional<Range> place;
 };
 
-// What one reader says of one span.
+// What one reader says about one span.
 struct Judgement {
   Range span;
   std::array<Label, kEnumeratedFields.size()> labels;  // in the order of kEnumeratedFields
   Referred reference;
 };
 
-// All that one reader says: in the order of spans, each span once.
+// Everything that one reader says: in the order of spans, each span once.
 using Reading = std::vector<Judgement>;
 
-// Indices into two readings; each index occurs once at most.
+// Indices into two readings; each index occurs at most once.
 using Matches = std::vector<std::pair<std::size_t, std::size_t>>;
 
 // Pairs equal spans.
 Matches MatchEqual(const Reading& a, const Reading& b);
 
-// Pairs spans that share characters: those that share most first, of these the earlier.
+// Pairs spans that share characters: those that share most first, and of these the earlier ones.
 Matches MatchOverlapping(const Reading& a, const Reading& b);
 
 // numerator / denominator; nullopt for a denominator of 0.

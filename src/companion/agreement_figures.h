@@ -11,20 +11,20 @@
 
 namespace quill::companion {
 
-// One figure and the number of cases that it rests on. Both readers are "*" where it speaks of all.
+// One figure and the number of cases that it rests on. Both readers are "*" if it is about all.
 struct Figure {
   std::string readerA;
   std::string readerB;
   std::string field;
   std::string measure;
-  std::optional<double> value;  // empty where it is not defined, and for a count
+  std::optional<double> value;  // empty if not defined, and for a count
   std::int64_t n = 0;
   bool isCount = false;
 };
 
 enum class Matching { kEqual, kOverlapping };
 
-// By pairs in the order of names, then fields, then measures.
+// Ordered by pairs (in the order of names), then fields, then measures.
 std::vector<Figure> CompareReaders(const std::map<std::string, Reading>& readings,
                                    Matching matching);
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <unordered_map>
 
-// The longest pairings form a lattice: one of them takes the first possible partner everywhere,
-// another the last one. What these two agree about, all agree about.
+// The longest pairings form a lattice: one takes the first possible partner everywhere, another the
+// last. What these two agree on, all agree on.
 //
 // Each of the two is found by halving: the left sequence is cut in the middle, and the lengths of
-// the longest pairings of both halves with every part of the right one tell where to cut that.
+// the longest pairings of its halves with the parts of the right sequence show where to cut that.
 // Lengths are counted 64 at a time, as differences between neighbours in the bits of words.
 namespace quill::companion {
 namespace {
@@ -64,7 +64,7 @@ class Pairing {
     Pair({middle, left.end}, {cut, right.end});
   }
 
-  // How much of the right sequence belongs to the first half of the left one.
+  // How much of the right sequence belongs with the first half of the left one.
   std::size_t Cut(Stretch left, std::size_t middle, Stretch right) {
     const std::vector<int> before = Lengths({left.begin, middle}, right, false);
     const std::vector<int> behind = Lengths({middle, left.end}, right, true);
@@ -77,10 +77,10 @@ class Pairing {
     return best;
   }
 
-  // The lengths of the longest pairings with the first 0, 1, 2 … of the right stretch or, backward,
-  // with its last ones.
+  // The lengths of the longest pairings with the first 0, 1, 2 … symbols of the right stretch or,
+  // backward, with its last ones.
   std::vector<int> Lengths(Stretch left, Stretch right, bool backward) {
-    // A bit that is 0 says that the length grows there.
+    // A 0 bit means that the length grows there.
     row_.assign((right.Length() + kBits - 1) / kBits, ~Word{0});
     masks_.clear();
     for (std::size_t i = 0; i < left.Length(); ++i) {
@@ -100,8 +100,7 @@ class Pairing {
     const auto [known, isNew] = masks_.try_emplace(symbol);
     if (isNew) known->second = MaskOf(places, right, backward);
     AddRow(known->second);
-    // Only those that save more than their room are kept: there are at most as many as a word has
-    // bits.
+    // Only those that save more room than they take are kept: at most as many as a word has bits.
     const auto count = static_cast<std::size_t>(places.end - places.begin);
     if (count < row_.size()) masks_.erase(known);
   }

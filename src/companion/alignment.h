@@ -1,4 +1,4 @@
-// What all the best ways to lay one sequence along another have in common.
+// What all the best alignments of two sequences have in common.
 #pragma once
 
 #include <cstddef>
@@ -8,10 +8,11 @@
 
 namespace quill::companion {
 
-// Pairs equal symbols of two sequences, in the order of both, as many as can be. Returns for every
-// element of the left one its partner in the right one, where every such pairing gives it the same.
+// Considers all ways to pair as many equal symbols of two sequences as possible, in the order of
+// both. Returns, for every element of the left sequence, its partner in the right one if all these
+// pairings agree on it.
 //
-// Takes a 64th of the product of the two lengths as its time, and their sum as its room.
+// Time: the product of the two lengths, divided by 64. Room: their sum.
 std::vector<std::optional<std::size_t>> CommonPairs(const std::vector<std::uint32_t>& left,
                                                     const std::vector<std::uint32_t>& right);
 

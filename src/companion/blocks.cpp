@@ -8,7 +8,7 @@ namespace {
 
 class BlockBuilder {
  public:
-  // Claims must come in the order of their begins.
+  // Claims must be added in the order in which they begin.
   void Add(const Claim& claim) {
     if (blocks_.empty() || claim.span.begin > blocks_.back().old.end) {
       Finish();
@@ -35,7 +35,8 @@ class BlockBuilder {
       return static_cast<Position>(claim.term.size()) == claim.span.Length();
     });
     if (!whole) return;
-    // Claims come in the order of their begins, so that a part is spelled already or comes next.
+    // Claims come in the order in which they begin, so each part is either spelled already or comes
+    // next.
     std::u32string spelling;
     for (const Claim& claim : claims_) {
       const auto from = static_cast<std::size_t>(claim.span.begin - block.old.begin);

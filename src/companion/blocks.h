@@ -11,7 +11,7 @@
 
 namespace quill::companion {
 
-// A span of a list and the characters that stood there.
+// A span of a list and the characters that were there.
 struct Claim {
   Range span;
   std::u32string_view term;
@@ -19,11 +19,11 @@ struct Claim {
 
 struct Block {
   Range old;
-  std::u32string spelling;        // empty where its claims contradict each other
-  std::optional<Position> place;  // where it begins now, once that is known
+  std::u32string spelling;        // empty if its claims contradict each other
+  std::optional<Position> place;  // where it begins now, if known
 };
 
-// In the order of their old places, without places.
+// In the order of their old places; the new ones are not set yet.
 std::vector<Block> BlocksOf(std::vector<Claim> claims);
 
 // Blocks next to each other without a place, and the text between the places around them.
@@ -34,10 +34,10 @@ struct Gap {
 };
 std::vector<Gap> GapsOf(const std::vector<Block>& blocks, Position length);
 
-// The one of the blocks, which are in order, that holds the whole span; nullptr for none.
+// The block that holds the whole span; nullptr for none. The blocks must be in order.
 const Block* BlockAround(const std::vector<Block>& blocks, Range span);
 
-// Where a span went with its block; nothing where it lies in none that has a place.
+// Where a span has moved with its block; nothing if no block with a place holds it.
 std::optional<Range> PlaceIn(const std::vector<Block>& blocks, Range span);
 
 }  // namespace quill::companion

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-// The heaviest chain that ends with a link fills a stretch of weight, up to the weight of that
-// chain. The links of a heaviest chain fill the whole weight without a gap, each its own stretch.
-// So a link that no other link of a heaviest chain overlaps there belongs to all of them.
+// Consider the heaviest chain that ends with a link: that link covers the last stretch of the
+// chain's weight. The links of a heaviest chain of all cover the whole weight without a gap. So a
+// link whose stretch no other link of a heaviest chain overlaps belongs to all of them.
 namespace quill::companion {
 namespace {
 
-// The greatest weight that was entered up to a position.
+// The greatest weight entered up to a position.
 class Heights {
  public:
   explicit Heights(Position end) : tree_(static_cast<std::size_t>(end) + 2, 0) {}
@@ -31,7 +31,7 @@ class Heights {
   std::vector<std::int64_t> tree_;
 };
 
-// Where the links of the next element end that stand from a number on.
+// The index after the last link of the element that begins at index `from`.
 std::size_t NextElement(const std::vector<Link>& links, std::size_t from) {
   std::size_t next = from;
   while (next < links.size() && links[next].element == links[from].element) ++next;
@@ -53,7 +53,7 @@ std::vector<std::int64_t> WeightsUpTo(const std::vector<Link>& links, Position e
   return weights;
 }
 
-// The same links, last one first, in a text that runs backward.
+// The same links in reverse order, in the text read backward.
 std::vector<Link> Backward(const std::vector<Link>& links, Position end) {
   std::vector<Link> backward(links.rbegin(), links.rend());
   for (Link& link : backward) link.place = {end - link.place.end, end - link.place.begin};

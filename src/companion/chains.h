@@ -1,4 +1,4 @@
-// Chains: elements laid out in their order, each at one of its places, apart from each other.
+// Chains: elements laid out in their order, each at one of its places, without overlap.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ struct Link {
   std::int64_t weight;
 };
 
-// The links that all the heaviest chains have in common: indices. Links come in the order of their
-// elements; the places lie in front of the end.
+// The indices of the links that all the heaviest chains have in common. Links must be in the order
+// of their elements, and all places before `end`.
 std::vector<std::size_t> CommonLinks(const std::vector<Link>& links, Position end);
 
 }  // namespace quill::companion

@@ -14,7 +14,7 @@
 namespace quill::companion {
 namespace {
 
-// In one line, as every finding is.
+// In one line, like every finding.
 std::string Quoted(std::u32string_view text) { return "\"" + InOneLine(text) + "\""; }
 
 // As in tag lines: from 1, both ends included.
@@ -71,7 +71,7 @@ class Checker {
     return "there stands " + Quoted(text_.At(place));
   }
 
-  // Where a tag's term stands; nothing for one that is lost.
+  // The place of a tag's term; nothing if it is lost.
   std::optional<Range> PlaceOf(std::size_t i) const {
     if (placement_.tags[i]) return placement_.tags[i];
     const Tag& tag = list_.tags[i];
@@ -156,7 +156,7 @@ class Checker {
     }
   }
 
-  // What tags cover, where they are and where they belong, in order and apart.
+  // What the tags cover, both where they are and where they belong: in order, without overlap.
   std::vector<Range> CoveredRanges() const {
     std::vector<Range> all;
     for (std::size_t i = 0; i < list_.tags.size(); ++i) {

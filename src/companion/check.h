@@ -1,4 +1,4 @@
-// What does not fit between a text, its marks and its tags.
+// Inconsistencies between a text, its marks and its tags.
 #pragma once
 
 #include <cstddef>
@@ -11,12 +11,12 @@
 namespace quill::companion {
 
 struct Finding {
-  std::size_t line = 0;  // 0 for what no line speaks of
+  std::size_t line = 0;  // 0 if it concerns no line
   const char* code = "";
   std::string id = {};
-  std::optional<Range> place = {};  // what is spoken of: a tag, a reference or a raised word
+  std::optional<Range> place = {};  // of the tag, reference or raised word concerned
   std::string term = {};
-  std::optional<Range> found = {};  // where it stands now
+  std::optional<Range> found = {};  // where it is now
   std::string message = {};
 };
 

@@ -10,7 +10,7 @@ std::vector<std::size_t> ReferenceCircles(const TagList& list) {
   std::vector<std::optional<std::size_t>> next;
   for (const Tag& tag : list.tags) next.push_back(references.TargetOf(tag));
   std::vector<std::size_t> circles;
-  // From which tag each one was reached first.
+  // The tag from which each one was first reached.
   constexpr std::size_t kNever = static_cast<std::size_t>(-1);
   std::vector<std::size_t> reachedFrom(next.size(), kNever);
   for (std::size_t start = 0; start < next.size(); ++start) {

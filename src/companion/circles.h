@@ -1,4 +1,4 @@
-// References that lead in a circle.
+// References that form a circle.
 #pragma once
 
 #include <cstddef>

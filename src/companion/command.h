@@ -1,5 +1,5 @@
-// A command of the companion, as a row of one table: the command line and its help are made from
-// that table.
+// A command of the companion, as a row of one table, from which the command line and its help are
+// made.
 #pragma once
 
 #include <vector>

@@ -32,8 +32,8 @@ void AddFiles(CLI::App& app, const Command& command, Options& options) {
   }
 }
 
-// To the parser, a path in brackets is a list of paths, unless something stands in front of it that
-// no argument can hold.
+// To the parser, a path in brackets is a list of paths, unless it is preceded by something that no
+// argument can hold.
 void ShieldBrackets(std::vector<std::string>& arguments) {
   for (std::string& argument : arguments) {
     if (argument.starts_with('[') && argument.ends_with(']')) argument.insert(0, 1, '\0');
@@ -112,7 +112,7 @@ bool TakesValue(const std::string& argument) {
   return std::find(kOptions.begin(), kOptions.end(), argument) != kOptions.end();
 }
 
-// Puts the command in front of the options that stand before it.
+// Moves the command before the options that precede it.
 void PutCommandFirst(std::vector<std::string>& arguments) {
   auto at = arguments.begin();
   while (at != arguments.end() && at->size() > 1 && at->front() == '-' && *at != "--") {

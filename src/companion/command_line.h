@@ -1,4 +1,4 @@
-// The command line: arguments to a command with its options, and its run.
+// The command line: turns arguments into a command with its options, and runs it.
 #pragma once
 
 #include <ostream>
@@ -7,8 +7,8 @@
 
 namespace quill::companion {
 
-// Runs the command that the arguments (without the program's name) ask for and returns the exit
-// code of the program.
+// Runs the command that the arguments (without the program's name) ask for. Returns the program's
+// exit code.
 int RunCommandLine(std::vector<std::string> arguments, const std::string& version,
                    std::ostream& out, std::ostream& err);
 

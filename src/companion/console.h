@@ -1,5 +1,5 @@
-// Where a command writes: results to standard output, complaints to standard error. The exit code
-// of the program follows from what was told here.
+// Where a command writes: results to standard output, complaints to standard error. The program's
+// exit code follows from what was reported here.
 #pragma once
 
 #include <cstddef>
@@ -11,20 +11,20 @@ namespace quill::companion {
 
 class Console {
  public:
-  // Done; done, with findings; a wrong call, or something that could not be read or written.
+  // Done; done, with findings; an invalid call, or something could not be read or written.
   enum ExitCode { kDone = 0, kFindings = 1, kFailure = 2 };
 
   Console(std::ostream& out, std::ostream& err) : out_(out), err_(err) {}
 
-  // Throws StatementFailed where standard output takes no more.
+  // Throws StatementFailed if standard output takes no more.
   void Write(std::string_view bytes);
-  // A remark that leaves the exit code alone.
+  // A remark; it does not change the exit code.
   void Remark(const std::string& sentence);
-  // What was found amiss in a line (from 1) of a file.
+  // A fault in a line (counted from 1) of a file.
   void Complain(const std::string& file, std::size_t line, const std::string& sentence);
   // What could not be done.
   void Fail(const std::string& sentence);
-  // Findings that stand in the results.
+  // There are findings in the results.
   void Found() { Raise(kFindings); }
 
   ExitCode Code() const { return code_; }

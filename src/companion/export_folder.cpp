@@ -35,7 +35,7 @@ std::vector<std::string> FilesOf(const FolderFormat& format, const Options& opti
   return paths;
 }
 
-// Without a folder, nothing can stand in the way of the outputs but a folder that can't be made.
+// If the folder does not exist, the outputs can fail only because it cannot be created.
 void CheckFolderAndFiles(const FolderFormat& format, const Options& options) {
   std::error_code problem;
   if (std::filesystem::exists(options.output, problem)) {

@@ -1,4 +1,4 @@
-// The formats that make files of their own for each text, in one folder.
+// The formats that write separate files for each text, in one folder.
 #pragma once
 
 #include <functional>
@@ -10,10 +10,11 @@
 
 namespace quill::companion {
 
-// The name of a text's files without ending: that of its own file less four characters.
+// The name of a text's files without their ending: the name of the text less its last four
+// characters.
 std::string NameOf(const std::string& path);
 
-// A file that comes of a text, or of all of them.
+// An output file, of one text or of all of them.
 struct NamedFile {
   std::string name;
   std::string bytes;
@@ -21,12 +22,12 @@ struct NamedFile {
 
 struct FolderFormat {
   std::vector<std::string> endings;  // of the files of one text
-  std::vector<NamedFile> common;     // files beside them
+  std::vector<NamedFile> common;     // files written once, beside them
   std::function<std::vector<NamedFile>(const TaggedText&, Console&)> write;
 };
 
-// Checks all files of all texts, makes the folder that -o names and fills it. Throws
-// StatementFailed where -o names none.
+// Checks all files of all texts, then creates the folder given by -o and fills it. Throws
+// StatementFailed if -o gives none.
 void ExportToFolder(const FolderFormat& format, const Options& options, Console& console);
 
 void ExportJsonLd(const Options& options, Console& console);

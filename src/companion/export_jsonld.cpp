@@ -1,4 +1,4 @@
-// The W3C's Web Annotation: an AnnotationPage beside the plain text that it speaks of.
+// The W3C's Web Annotation: an AnnotationPage beside the plain text that it is about.
 #include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
@@ -11,16 +11,16 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// Characters of the text that are quoted on either side of a term.
+// Characters of the text quoted on either side of a term.
 constexpr Position kContext = 32;
 
 struct Term {
   const char* name;
-  const char* meaning;  // what it stands for, behind kVocabulary
+  const char* meaning;  // what it means, appended to kVocabulary
   std::size_t field;
 };
 constexpr const char* kVocabulary = "urn:quillorandix:tag#";
-// Names that the standard's own context uses (id, type, value) are given other ones here.
+// Names that the standard's context uses (id, type, value) are replaced by others here.
 constexpr std::array<Term, 11> kTerms = {{{"number", "id", TagField::kId},
                                           {"term", "term", TagField::kTerm},
                                           {"session", "session", TagField::kSessionId},
@@ -60,7 +60,7 @@ class Page {
   explicit Page(const TaggedText& text)
       : text_(text.text), lists_(text.lists), name_(PercentEncoded(NameOf(text.path))) {}
 
-  // Composed annotation by annotation, so that only its text is held as a whole.
+  // Composed annotation by annotation, so that only the result is in memory as a whole.
   std::string Bytes() const {
     const Json context = {"http://www.w3.org/ns/anno.jsonld", ContextTerms()};
     std::string bytes = "{\n\"@context\": " + context.dump() + ",\n\"id\": " + Json(Id()).dump() +
@@ -78,7 +78,7 @@ class Page {
 
  private:
   std::string Id() const { return name_ + ".jsonld"; }
-  // Lines of further lists are told from those of the first one.
+  // Distinguishes lines of further lists from those of the first.
   std::string IdOf(std::size_t list, const Tag& tag) const {
     const std::string reader = list == 0 ? "" : "." + std::to_string(list + 1);
     return Id() + "#L" + std::to_string(tag.line) + reader;

@@ -93,7 +93,7 @@ class Utf16Positions {
   }
 
  private:
-  std::vector<Position> pairs_;  // where characters of two units stand
+  std::vector<Position> pairs_;  // the places of characters of two units
 };
 
 class Cas {

@@ -8,8 +8,8 @@
 
 namespace {
 
-// A stream that the caller closed must not become a file that is opened here: it is opened in a way
-// that every use of it fails.
+// A file opened later must not take the number of a stream that the caller closed: such a stream is
+// opened here in a way that makes every use of it fail.
 void HoldClosedStreams() {
   for (int stream = 0; stream <= 2; ++stream) {
     if (fcntl(stream, F_GETFD) < 0) open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
@@ -20,7 +20,7 @@ void HoldClosedStreams() {
 
 int main(int argc, char** argv) try {
   HoldClosedStreams();
-  // A pipe that is closed, or a limit on the size of files, makes a write fail, which is told.
+  // A closed pipe or a limit on file sizes then makes a write fail, with a message.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   std::ios::sync_with_stdio(false);

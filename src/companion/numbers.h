@@ -1,4 +1,4 @@
-// Figures of results as text, the same in every locale.
+// The figures of results as text, the same in every locale.
 #pragma once
 
 #include <string>

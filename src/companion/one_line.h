@@ -1,4 +1,4 @@
-// Text for a place that has room for one line.
+// Text where there is room for one line only.
 #pragma once
 
 #include <string>

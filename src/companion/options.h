@@ -1,4 +1,4 @@
-// What the user asked for: one command with its options.
+// What the user asked for: a command with its options.
 #pragma once
 
 #include <optional>

@@ -15,7 +15,7 @@
 namespace quill::companion {
 namespace {
 
-// Files by what they are, and by where they would be if they are not there.
+// Files, identified by what they are or, if they do not exist, by where they would be.
 class FileSet {
  public:
   bool Has(const std::string& path) const {

@@ -1,5 +1,5 @@
-// Where results go: standard output, or files that are checked before the first is written, and
-// replaced, never written in place.
+// Where results go: standard output or files. Files are all checked before the first is written,
+// and replaced, never written in place.
 #pragma once
 
 #include <string>
@@ -11,15 +11,15 @@
 
 namespace quill::companion {
 
-// Throws StatementFailed where one of the files may not be written: it is an input of the call,
-// stands twice among the outputs, is there already (unless with --force), or has no folder that
-// takes it.
+// Throws StatementFailed if one of the files may not be written: it is an input of the call, occurs
+// twice among the outputs, exists already (except with --force), or has no folder that takes it.
 void CheckOutputs(const std::vector<std::string>& paths, const Options& options);
 
-// Writes a file that was checked.
+// Writes a file that has been checked.
 void WriteOutput(const std::string& path, std::string_view bytes);
 
-// The one result of a command, to standard output as it comes, or to a file when it is finished.
+// The single result of a command, written to standard output as it comes, or to a file when
+// complete.
 class Output {
  public:
   // Checks the file.

@@ -27,7 +27,7 @@ using Mode = PictureTag::Mode;
 
 // --- Writing -----------------------------------------------------------------------------------
 
-// To a tenth of a unit, without a needless decimal.
+// Rounded to a tenth of a unit; no decimal for a whole number.
 std::string Number(double value) {
   const long tenths = std::lround(value * 10);
   std::string text = tenths < 0 ? "-" : "";
@@ -81,7 +81,7 @@ std::string Text(double x, double y, std::u32string_view text, std::string_view 
 
 std::u32string Ascii(std::string_view text) { return {text.begin(), text.end()}; }
 
-// With narrow spaces between groups of three digits from five digits on.
+// Numbers of five digits or more have narrow spaces between groups of three.
 std::u32string Grouped(Position number) {
   std::u32string digits = Ascii(std::to_string(number));
   if (digits.size() < 5) return digits;
@@ -112,8 +112,8 @@ std::string OpenStyle(Kind kind, Mode mode) {
   return out + (mode == Mode::kOther ? "\" fill-opacity=\".35\">\n" : "\">\n");
 }
 
-// The head of a mark's element, without its closing bracket, and the element's name. Its middle
-// stands at height 0.
+// The start tag of a mark's element, without its closing bracket, and the element's name. The
+// middle of the mark is at height 0.
 struct Shape {
   std::string head;
   std::string_view name;
@@ -138,7 +138,7 @@ Shape ShapeOf(Kind kind, double x, double radius) {
           "path"};
 }
 
-// 1-based and inclusive, as the tags themselves count.
+// 1-based and inclusive, as in the tags.
 std::u32string PlaceOf(Range span) {
   return Ascii(std::to_string(span.begin + 1)) + U"\u2013" + Ascii(std::to_string(span.end));
 }
@@ -215,13 +215,13 @@ class Drawing {
            " fill=\"#fff\"/>\n";
   }
 
-  // From the tag to what it refers to, with a head there.
+  // From the tag to what it refers to, with an arrowhead there.
   std::string Arc(const PictureTag& tag) const {
     const double from = X(tag.span);
     const double width = X(*tag.reference) - from;
     const std::string start = "M" + Number(from) + " " + Number(axis_ - 2);
     if (std::abs(width) < 1) return Path(start + "c-9-18 9-18 0-1");
-    // A quadratic curve reaches half the height of its control point.
+    // A quadratic curve reaches half the height of the control point.
     return Path(start + "q" + Number(width / 2) + " " + Number(-2 * HeightOfArc(tag)) + " " +
                 Number(width) + " 0");
   }
@@ -287,7 +287,7 @@ class Drawing {
     return out;
   }
 
-  // Where marks are few, from the axis to each.
+  // From the axis to each mark, if marks are few.
   std::string DropLines(double lanesBegin) const {
     if (!layout_.labelled) return {};
     std::string data;
@@ -316,7 +316,7 @@ class Drawing {
                 LabelOf(picture_.tags[mark.tag]), mark.labelIsLeft ? "text-anchor=\"end\"" : "");
   }
 
-  // One group a row, in it one for each look that occurs.
+  // A group for each row and, inside it, one for each look that occurs.
   std::string Marks(std::size_t lane, double lanesBegin) const {
     const auto& marks = layout_.lanes[lane];
     std::string out;

@@ -1,9 +1,9 @@
-// A picture of where the tags of a text stand and what they refer to, as one SVG file.
+// A picture of where the tags of a text are and what they refer to, as one SVG file.
 //
-// The text runs from left to right along an axis. Below it stands a lane for each class with a mark
-// for each tag; where marks would cover each other, the lane grows a row. Above the axis an arc
-// runs from each relative tag to the term that it refers to. Shape and filling say what colour
-// says, so that grey print loses nothing.
+// The text runs from left to right along an axis. Below it is a lane for each class, with a mark
+// for each tag; if marks would cover each other, the lane grows by a row. Above the axis, an arc
+// runs from each relative tag to the term that it refers to. Shape and filling repeat what colour
+// says, so that nothing is lost in greyscale.
 #pragma once
 
 #include <optional>
@@ -19,13 +19,13 @@ struct PictureTag {
   enum class Mode { kAbsolute, kRelative, kOther };
 
   Range span;           // 0-based, half-open
-  std::u32string lane;  // the class; empty where none is given
+  std::u32string lane;  // the class; empty if none is given
   Kind kind = Kind::kOther;
   Mode mode = Mode::kOther;
   std::u32string term;
   // What the tag says, piece by piece.
   std::vector<std::u32string> told;
-  // The term that it refers to.
+  // The term that the tag refers to.
   std::optional<Range> reference;
 };
 
@@ -37,7 +37,7 @@ struct Picture {
   std::vector<PictureTag> tags;       // in the order of the list
 };
 
-// The whole file, UTF-8. The same picture gives the same bytes. Where 5,000 tags would take more
+// The whole file, in UTF-8. The same picture gives the same bytes. If 5,000 tags would take more
 // than a million bytes, terms and what tags say are shortened.
 std::string DrawPicture(const Picture& picture);
 

@@ -1,4 +1,4 @@
-// The picture of one text: what of its tags the drawing shows.
+// The picture of one text: selects what the drawing shows of its tags.
 
 #include <algorithm>
 #include <array>
@@ -69,7 +69,8 @@ PictureTag Drawn(const Tag& tag, Position length) {
   return drawn;
 }
 
-// The four classes of the tag editor, whatever occurs; then others by name; last, none.
+// The four classes of the tag editor, even if they do not occur; then others by name; then "no
+// class".
 std::vector<std::u32string> LanesOf(const std::vector<PictureTag>& tags) {
   std::vector<std::u32string> lanes(kClasses.begin(), kClasses.end());
   std::vector<std::u32string> others;

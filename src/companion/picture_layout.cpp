@@ -10,13 +10,13 @@ namespace {
 
 constexpr std::size_t kMostLabelled = 40;
 constexpr std::size_t kMostOfLabel = 24;
-// Lanes may grow to this height in all before marks become smaller.
+// The lanes together may grow to this height before marks become smaller.
 constexpr double kMostHeight = 440;
 constexpr double kGap = 1.5;
 constexpr double kLabelGap = 5;
 constexpr std::array kRadii = {6.0, 5.0, 4.0, 3.0, 2.2, 1.6};
 
-// Of 11 units' type in any sans serif face, rather too wide than too narrow.
+// The width in type of 11 units, in any sans serif face; too wide rather than too narrow.
 double LabelWidth(const PictureTag& tag) {
   constexpr char32_t kFirstWide = 0x1100;
   double width = 0;
@@ -43,8 +43,8 @@ Extent ExtentOf(PlacedMark& mark, const PictureTag& tag, double radius, bool lab
   return extent;
 }
 
-// Gives each mark the first row in which it has room; beyond `mostRows` the one that is free
-// soonest. Returns how many rows are used.
+// Gives each mark the first row with room for it or, if that would exceed `mostRows`, the row that
+// is free soonest. Returns the number of rows used.
 std::size_t FillRows(std::vector<PlacedMark>& marks, const Picture& picture, double radius,
                      bool labelled, std::size_t mostRows) {
   std::vector<double> ends;
@@ -79,11 +79,11 @@ bool Fits(const PictureLayout& layout) {
   return static_cast<double>(RowsInAll(layout)) * layout.rowHeight <= kMostHeight;
 }
 
-// Marks become smaller until they fit, and only then cover each other.
+// Marks shrink until they fit; only the smallest may cover each other.
 void ArrangeInRows(PictureLayout& layout, const Picture& picture) {
   if (layout.labelled) return Arrange(layout, picture, kRadii.front(), picture.tags.size());
   for (const double radius : kRadii) {
-    // One row more than there is room for tells that there is none.
+    // One row more than fits shows that there is too little room.
     Arrange(layout, picture, radius, static_cast<std::size_t>(kMostHeight / (2 * radius)) + 1);
     if (Fits(layout)) return;
   }

@@ -1,5 +1,5 @@
-// Where the marks of a picture stand: one lane a class, in each as many rows as its marks need to
-// stand apart.
+// The places of a picture's marks: a lane for each class, with as many rows as keep its marks
+// apart.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace quill::companion {
 
-// In the units of the drawing, as all lengths here.
+// In units of the drawing, like all lengths here.
 constexpr double kPlotWidth = 1000;
 
 struct PlacedMark {
@@ -27,11 +27,11 @@ struct PictureLayout {
   std::vector<std::size_t> rows;               // of each lane; at least one
 };
 
-// Where a position of the text stands on the axis, from 0 to kPlotWidth.
+// The place of a text position on the axis, from 0 to kPlotWidth.
 double AxisPlace(const Picture& picture, double position);
 double MiddleOf(const Picture& picture, Range span);
 
-// The term as its mark's label shows it.
+// The term as the mark's label shows it.
 std::u32string LabelOf(const PictureTag& tag);
 
 PictureLayout LayOut(const Picture& picture);

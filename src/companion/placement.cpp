@@ -12,7 +12,7 @@
 namespace quill::companion {
 namespace {
 
-// Numbers for spellings; those of blocks come first.
+// Numbers the spellings; those of blocks come first.
 class Spellings {
  public:
   std::uint32_t NumberOf(std::u32string_view spelling) {
@@ -24,7 +24,7 @@ class Spellings {
   std::unordered_map<std::u32string_view, std::uint32_t> numbers_;
 };
 
-// Places blocks by the raised stretches that are spelled as they are.
+// Places blocks at the raised stretches that are spelled like them.
 void PlaceByMarks(const Text& text, const std::vector<Range>& raised, std::vector<Block>& blocks) {
   Spellings spellings;
   std::vector<std::uint32_t> left;
@@ -43,7 +43,7 @@ void PlaceByMarks(const Text& text, const std::vector<Range>& raised, std::vecto
   }
 }
 
-// The stretches inside a range, counted from its begin.
+// The stretches inside a range, counted from the start of the range.
 std::vector<Range> StretchesIn(const std::vector<Range>& stretches, Range range) {
   auto stretch = std::partition_point(stretches.begin(), stretches.end(), [&](const Range& before) {
     return before.begin < range.begin;
@@ -55,7 +55,8 @@ std::vector<Range> StretchesIn(const std::vector<Range>& stretches, Range range)
   return inside;
 }
 
-// Places the blocks of a gap, of which some marks are gone, by the others and by their characters.
+// Places the blocks of a gap in which some marks are gone, by the remaining marks and by their
+// characters.
 void PlaceInGap(const Text& text, const std::vector<Range>& raised, const Gap& gap,
                 std::vector<Block>& blocks) {
   std::vector<std::u32string_view> words;
@@ -79,7 +80,7 @@ std::vector<Claim> ClaimsOf(const TagList& list) {
   return claims;
 }
 
-// A reference to a term that no line of the list tags any more.
+// Whether a reference is to a term that no line of the list tags any more.
 bool IsLoose(const std::optional<Reference>& reference, const References& references) {
   return reference && reference->span && !references.LastAt(*reference->span) &&
          reference->span->Length() == static_cast<Position>(reference->term.size());
@@ -92,8 +93,8 @@ bool Touches(const std::vector<Block>& blocks, Range span) {
   return behind != blocks.begin() && (behind - 1)->old.end >= span.begin;
 }
 
-// The terms of loose references are no tags, and their marks are gone: they are looked for between
-// the places of the tags around them.
+// The terms of loose references have no tags and no marks: they are searched for between the places
+// of the tags around them.
 std::vector<Block> LooseBlocks(const Text& text, const TagList& list, const References& references,
                                const std::vector<Block>& blocks) {
   std::vector<Claim> claims;
@@ -119,7 +120,7 @@ std::optional<Range> PlaceOfReference(const Text& text, const Tag& tag,
   if (!reference || !reference->span) return std::nullopt;
   if (references.LastAt(*reference->span)) return PlaceIn(blocks, *reference->span);
   if (!IsLoose(reference, references)) return std::nullopt;
-  // Part of a block, or by itself; a part must still be what it was.
+  // Part of a block, or by itself; a part must still have the same characters.
   const std::optional<Range> place = PlaceIn(loose, *reference->span);
   const bool same = place && text.At(*place) == reference->term;
   return same ? place : std::nullopt;

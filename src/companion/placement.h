@@ -1,9 +1,9 @@
-// Where the tags of a list belong in a text whose words were changed since.
+// Where the tags of a list belong in a text that has been edited since.
 //
-// Tags that overlap or touch form a block, which keeps its shape. Its places are the raised
-// stretches of the text that are spelled as it. Blocks keep their order. Of all ways to place them,
-// those count that place most blocks by their marks and, of these, most others by their characters;
-// a block has a place where all of these agree.
+// Tags that overlap or touch form a block, which keeps its shape. Its possible places are the
+// raised stretches of the text with the same spelling. Blocks keep their order. Of all ways to
+// place them, those count that place the most blocks by their marks and, among these, the most
+// others by their characters; a block has a place if all of these agree on it.
 #pragma once
 
 #include <optional>
@@ -14,10 +14,10 @@
 namespace quill::companion {
 
 struct Placement {
-  // For each tag of the list: where it belongs, which may be where it is; nothing where that is not
-  // known.
+  // For each tag of the list: where it belongs, which may be where it is; nothing if that is
+  // unknown.
   std::vector<std::optional<Range>> tags;
-  // The same for the reference of each tag; nothing, too, where it has none with positions.
+  // The same for the reference of each tag; nothing, too, if it has none with positions.
   std::vector<std::optional<Range>> references;
 };
 

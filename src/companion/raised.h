@@ -1,4 +1,4 @@
-// The raised words of a text: what tells where tags stand, and of which kind they are.
+// The raised words of a text, which show where tags are and of which kind.
 #pragma once
 
 #include <vector>
@@ -7,7 +7,7 @@
 
 namespace quill::companion {
 
-// Of marks and of operators: blue or red.
+// The kind of a mark and of an operator: blue or red.
 enum class Kind { kA, kB };
 
 // The maximal raised stretches, whatever their colours, in order.
@@ -16,7 +16,7 @@ std::vector<Range> RaisedStretches(const Text& text);
 // The maximal raised stretches of one kind, in order.
 std::vector<Range> MarkedStretches(const Text& text);
 
-// Whether a range that is not empty lies in one of the stretches, which are in order and apart.
+// Whether a non-empty range lies in one of the stretches, which are in order and do not overlap.
 bool LiesIn(const std::vector<Range>& stretches, Range range);
 
 // Whether the whole of a raised range has the colour of a kind.

@@ -28,7 +28,7 @@ class Labels {
   std::map<std::u32string, Label, std::less<>> numbers_;
 };
 
-// The texts of a call must be one text, or positions mean different things in each.
+// All texts of a call must be the same, or positions would mean different things in each.
 class OneText {
  public:
   void Compare(const TaggedText& text) {

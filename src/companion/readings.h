@@ -1,5 +1,4 @@
-// The readings that a comparison rests on: which reader says what, over all texts and lists of a
-// call.
+// The readings that a comparison rests on: what each reader says, in all texts and lists of a call.
 #pragma once
 
 #include <map>
@@ -11,9 +10,9 @@
 
 namespace quill::companion {
 
-// By the readers' names, UTF-8, in the order of code points. Damaged lines are told and left out.
-// Throws StatementFailed where there is nothing to compare: texts that differ, a tag without the
-// name of a reader, fewer than two readers.
+// By the readers' names, in UTF-8, in the order of code points. Damaged lines are reported and left
+// out. Throws StatementFailed if nothing can be compared: texts differ, a tag lacks the name of its
+// reader, or there are fewer than two readers.
 std::map<std::string, Reading> ReadingsOf(const Options& options, Console& console);
 
 }  // namespace quill::companion

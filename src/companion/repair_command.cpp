@@ -9,8 +9,8 @@
 #include "disk/text_lines.h"
 #include "text/unicode.h"
 
-// A line is changed in its bytes: backslashes and digits are the same in every encoding that a list
-// may have, and what stands between them stays as it is.
+// Lines are changed as bytes: backslashes and digits are the same in every encoding that a list may
+// have, and everything else stays as it is.
 namespace quill::companion {
 namespace {
 
@@ -20,13 +20,13 @@ struct Correction {
   Position number;
 };
 
-// Where a field stands in the bytes of a line.
+// The place of a field in the bytes of a line.
 struct Extent {
   std::size_t begin;
   std::size_t end;
 };
 
-// Of a field behind the first one. The last one reaches to the end of the line.
+// Not for the first field. The last one extends to the end of the line.
 Extent ExtentOf(std::string_view line, std::size_t field) {
   std::size_t separator = line.find('\\');
   for (std::size_t i = 1; i < field; ++i) separator = line.find('\\', separator + 1);
@@ -107,7 +107,7 @@ class Repair {
     }
   }
 
-  // A reference without a term says nothing that could be missing.
+  // A reference without a term has nothing that could be missing.
   bool Stands(Range span, std::u32string_view term, bool isReference) const {
     if (isReference && term.empty()) return true;
     return span.begin <= span.end && span.end <= text_.Length() && text_.At(span) == term;

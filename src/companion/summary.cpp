@@ -58,7 +58,7 @@ void Add(Counts& all, const Counts& one) {
   }
 }
 
-// Not defined for an empty text.
+// Undefined for an empty text.
 std::string Density(const Counts& counts) {
   if (counts.characters == 0) return "NA";
   return Decimal(10000.0 * static_cast<double>(counts.tags) /
@@ -97,7 +97,7 @@ bool IsEnumerated(std::string_view name) {
                      [&](const EnumeratedField& field) { return field.name == name; });
 }
 
-// Two columns under the name of the file: what was counted, and how often.
+// Two columns under the name of the file: what was counted, and how many.
 std::string TableOf(const std::string& file, const std::vector<Row>& rows) {
   constexpr std::size_t kFirstColumn = 28;
   std::string table = file + "\n";

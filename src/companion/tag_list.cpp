@@ -13,7 +13,7 @@ constexpr std::u32string_view kOpening = U"t_op(";
 constexpr std::u32string_view kClosing = U" )";
 constexpr std::size_t kSeparator = 2;  // a backslash and a blank
 
-// By fields. Numbers have none: what is no digit is no number anyhow.
+// By field. Numbers need none: a text without digits is not a number anyway.
 constexpr std::array<std::u32string_view, TagField::kCount> kPlaceholders = {
     U"",
     U"",
@@ -43,7 +43,7 @@ bool KeepsBlanks(std::size_t field) {
   return field == TagField::kTerm || field == TagField::kValue || field == TagField::kRefTerm;
 }
 
-// The fields of a line that has all its separators; says what is wrong with any other.
+// Cuts the fields of a line that has all its separators. Returns what is wrong with any other line.
 std::string CutStrictly(std::u32string_view line, TagFields& fields) {
   if (!line.starts_with(kOpening)) return "it does not begin with \"t_op(\"";
   if (!line.ends_with(kClosing)) return "it does not end with \" )\"";

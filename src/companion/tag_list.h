@@ -1,8 +1,8 @@
-// A tag list as the companion reads it: strictly, so that every line either is a tag or is damaged.
+// A tag list as the companion reads it: strictly, so that every line is either a tag or damaged.
 //
-// A line is a tag if it is "t_op(", 15 fields between exactly 14 backslashes, " )", with a first
-// and a last position that can be. Lines are told by their numbers in the file, from 1; empty lines
-// count and are neither.
+// A line is a tag if it is "t_op(", 15 fields separated by exactly 14 backslashes, " )", with a
+// possible first and last position. Lines are numbered from 1, as in the file; empty lines are
+// counted and are neither.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@
 
 namespace quill::companion {
 
-// The fields that take one of a few values, under the names that tables have for them.
+// The fields that take one of a few values, with their names in tables.
 struct EnumeratedField {
   const char* name;
   std::size_t field;
@@ -33,7 +33,7 @@ inline constexpr std::array<EnumeratedField, 5> kEnumeratedFields = {
 
 struct Tag {
   std::size_t line = 0;
-  TagFields fields;  // as they stand in the line
+  TagFields fields;  // as in the line
   Range span;        // may end beyond the text
 };
 
@@ -42,7 +42,7 @@ struct Damage {
   std::string what;  // a sentence
 };
 
-// The tags hold views into the lines: a list is moved, never copied.
+// The tags are views into the lines, so a list may be moved but not copied.
 struct TagList {
   TagList() = default;
   TagList(TagList&&) = default;
@@ -63,22 +63,22 @@ TagList ParseTagList(std::string path, std::string bytes);
 // Counts tags that end beyond a text of that length as damaged.
 void LeaveOutBeyond(TagList& list, Position length);
 
-// What a field says. The text that its box shows before anything is entered says nothing, and so
-// it is empty here. Term, Value and RefTerm keep the blanks around them, others lose them.
+// The content of a field; empty if it holds what its box shows before anything is entered. Term,
+// Value and RefTerm keep the blanks around them, other fields lose them.
 std::u32string_view Given(const Tag& tag, std::size_t field);
 
-// The number that a field holds, blanks dropped; nothing unless it is digits. Numbers beyond every
-// text stay beyond every text.
+// The number in a field, ignoring blanks around it; nothing unless it is all digits. A number
+// beyond every text remains beyond every text.
 std::optional<Position> WholeNumber(std::u32string_view field);
 
 // What a tag refers to.
 struct Reference {
-  std::u32string_view term;   // empty where none is given
-  std::optional<Range> span;  // where positions are given; ends at -1 where the last one is missing
+  std::u32string_view term;   // empty if none is given
+  std::optional<Range> span;  // if positions are given; ends at -1 if the last one is missing
 };
 std::optional<Reference> ReferenceOf(const Tag& tag);
 
-// Which tag of a list a reference points to. The list must stay as it is.
+// Which tag of a list a reference points to. The list must outlive this and not change.
 class References {
  public:
   explicit References(const TagList& list);

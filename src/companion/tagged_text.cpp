@@ -30,7 +30,7 @@ std::vector<RaisedRun> RaisedRunsOf(const Document& document) {
   return runs;
 }
 
-// A text without a list has no tags; a list that was named must be there.
+// A text without a list has no tags, but a list given by name must exist.
 std::optional<TagList> ReadList(const std::string& path, bool named) {
   const auto status = std::filesystem::symlink_status(path);
   if (!named && status.type() == std::filesystem::file_type::not_found) {

@@ -1,4 +1,4 @@
-// A text with the tag lists that belong to it, and the reading of both.
+// A text with its tag lists, and how both are read.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 
 namespace quill::companion {
 
-// Raised characters of one colour that stand together. Stretches that touch differ in colour.
+// A run of raised characters of one colour. Runs that touch differ in colour.
 struct RaisedRun {
   Range range;
   Colour colour = 0;
@@ -20,7 +20,7 @@ struct RaisedRun {
 
 struct Text {
   std::u32string characters;
-  std::vector<RaisedRun> raised;  // in order, apart
+  std::vector<RaisedRun> raised;  // in order, without overlap
 
   Position Length() const { return static_cast<Position>(characters.size()); }
   // The range must lie inside the text.
@@ -38,21 +38,21 @@ struct TaggedText {
 
 Text TextOf(const Document& document);
 
-// Throws StatementFailed where the file cannot be read or is no text.
+// Throws StatementFailed if the file cannot be read or is not text.
 Text ReadText(const std::string& path);
 
-// The list that the window would take for the text's.
+// The list that the window would load with the text.
 std::string ListBeside(const std::string& path);
 
-// The lists of one of the files of a call, which need not be there.
+// The lists of one of the files of a call; they need not exist.
 std::vector<std::string> ListsOf(const std::string& file, const Options& options);
 
-// Reads one text after the other, each with its lists, and calls visit. Files that cannot be read
-// are told and passed over.
+// Reads one text after another, each with its lists, and calls `visit`. Files that cannot be read
+// are reported and skipped.
 void ForEachText(const Options& options, Console& console,
                  const std::function<void(TaggedText&)>& visit);
 
-// The same with what is damaged, or beyond the text, told and left out.
+// The same, but lines that are damaged or beyond the text are reported and left out.
 void ForEachSoundText(const Options& options, Console& console,
                       const std::function<void(TaggedText&)>& visit);
 

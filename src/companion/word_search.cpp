@@ -14,7 +14,7 @@ namespace {
 
 using Word = std::u32string_view;
 
-// Beyond these, a text is made to be searched for ever.
+// A text that needs more was made to be searched for ever.
 constexpr std::size_t kMostComparisons = 100'000'000;
 constexpr std::size_t kMostPlaces = 8'000'000;
 constexpr std::size_t kMostSteps = 4'000'000;
@@ -31,7 +31,7 @@ class Finder {
     }
   }
 
-  // Whether all were found within the limits.
+  // Whether all places were found within the limits.
   bool Search(Word text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
       const Word rest = text.substr(at);
@@ -70,7 +70,7 @@ class Finder {
   std::size_t found_ = 0;
 };
 
-// A word to be laid out, with all its places in order.
+// A word to lay out, with all its places in order.
 struct Laid {
   Position length;
   const std::vector<Position>* places;
@@ -78,7 +78,7 @@ struct Laid {
 
 constexpr Position kNowhere = std::numeric_limits<Position>::max();
 
-// The first place that begins at or behind a position.
+// The first place that begins at or after a position.
 Position NextPlace(const Laid& word, Position from) {
   const auto place = std::lower_bound(word.places->begin(), word.places->end(), from);
   return place == word.places->end() ? kNowhere : *place;
@@ -90,10 +90,10 @@ Position LastPlace(const Laid& word, Position end) {
   return behind == word.places->begin() ? -1 : *(behind - 1);
 }
 
-// Words of a text without raised ones among them.
+// Lays out words, none of them raised, in a text.
 //
-// For every number of words left out, from 0 up to what is needed, and for every number of words at
-// the head (or at the end): how far into the text the others reach at least.
+// For every number of words left out, from 0 up to what is needed, and every number of words from
+// the start (or from the end): how far into the text the rest of them reach at least.
 class Layout {
  public:
   explicit Layout(const std::vector<Laid>& words, Position length)
@@ -108,9 +108,9 @@ class Layout {
 
   bool Found() const { return found_; }
 
-  // The one place of a word, where there is one.
+  // The only possible place of a word, if there is just one.
   std::optional<Position> PlaceOf(std::size_t i) const {
-    const std::size_t most = ends_.size() - 1;  // words left out in all
+    const std::size_t most = ends_.size() - 1;  // words left out in total
     Position first = kNowhere;
     Position last = -1;
     for (std::size_t before = 0; before <= most; ++before) {
@@ -128,7 +128,8 @@ class Layout {
   }
 
  private:
-  // ends[i]: where the first i words end at the earliest, one more of them left out than before.
+  // ends[i]: where the first i words end at the earliest, with one more of them left out than
+  // before.
   std::vector<Position> NextEnds() const {
     std::vector<Position> ends(words_.size() + 1, 0);
     for (std::size_t i = 0; i < words_.size(); ++i) {
@@ -139,7 +140,7 @@ class Layout {
     return ends;
   }
 
-  // begins[i]: where the words from i on begin at the latest; -1 where they cannot.
+  // begins[i]: where the words from i on begin at the latest; -1 if they do not fit.
   std::vector<Position> NextBegins() const {
     std::vector<Position> begins(words_.size() + 1, length_);
     for (std::size_t i = words_.size(); i-- > 0;) {
@@ -156,7 +157,7 @@ class Layout {
   std::vector<std::vector<Position>> begins_;
 };
 
-// The different words, and for each of all words which one it is.
+// The distinct words, and for each word which of them it is.
 struct Vocabulary {
   std::vector<Word> words;
   std::vector<std::size_t> numbers;
@@ -173,7 +174,7 @@ Vocabulary VocabularyOf(const std::vector<Word>& all) {
   return vocabulary;
 }
 
-// The stretches that are spelled as one of the words.
+// The stretches that are spelled like one of the words.
 std::vector<Range> MarkedStretches(Word text, const Vocabulary& vocabulary,
                                    const std::vector<Range>& raised) {
   const std::unordered_set<Word> words(vocabulary.words.begin(), vocabulary.words.end());
@@ -196,7 +197,7 @@ Places PlaceUnmarked(Word text, const std::vector<Laid>& words) {
   return places;
 }
 
-// A place that is marked weighs more than all the others can together.
+// A marked place weighs more than all unmarked ones together can.
 Places PlaceByWeight(Word text, const std::vector<Laid>& words, const std::vector<Range>& marked) {
   const auto isMarked = [&](Range place) {
     const auto at = std::lower_bound(
@@ -233,7 +234,7 @@ std::vector<std::optional<Position>> PlaceWords(std::u32string_view text,
   std::vector<std::size_t> which;
   for (std::size_t i = 0; i < words.size(); ++i) {
     const std::vector<Position>& all = finder.PlacesOf(vocabulary.numbers[i]);
-    // What stands nowhere is left out in every way to lay the words.
+    // A word without a place is left out in every layout.
     if (all.empty()) continue;
     laid.push_back({static_cast<Position>(words[i].size()), &all});
     which.push_back(i);

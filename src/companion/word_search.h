@@ -1,4 +1,4 @@
-// Words that are known by their characters and their order alone, found again in a stretch of text.
+// Finds words again in a stretch of text, knowing only their characters and their order.
 #pragma once
 
 #include <optional>
@@ -9,12 +9,12 @@
 
 namespace quill::companion {
 
-// Lays words into a text in their order, apart from each other: first as many as can be at raised
-// stretches that are spelled as they are, then as many of the others as can be wherever their
-// characters stand. Returns the begin of every word which all such ways put at the same place.
-// Where there are too many possibilities to look through, none is returned.
+// Lays words into a text in their order, without overlap: first as many as possible at raised
+// stretches with their spelling, then as many of the others as possible wherever their characters
+// occur. Returns where each word begins, if all such layouts agree on it. If there are too many
+// possibilities to try, returns none.
 //
-// Words are not empty. The stretches lie in the text, in order and apart.
+// Words must not be empty. The stretches lie in the text, in order and without overlap.
 std::vector<std::optional<Position>> PlaceWords(std::u32string_view text,
                                                 const std::vector<std::u32string_view>& words,
                                                 const std::vector<Range>& raised);
