@@ -208,23 +208,20 @@ void LineHands::Compose(const QString& preedit, const QString& commit) {
 
 void LineHands::ChooseItem(const char* item) {
   QMenuBar& bar = *window_.menuBar();
-  // Where the keyboard opened the bar, the mouse would close it.
-  bar.setActiveAction(nullptr);
-  for (QAction* const title : bar.actions()) {
-    if (title->menu()->findChild<QAction*>(QString::fromLatin1(item)) == nullptr) continue;
-    // In a narrow window the last titles are behind a button.
-    const QRect place = bar.actionGeometry(title);
-    const bool inSight = bar.rect().contains(place) && bar.childAt(place.center()) == nullptr;
-    if (inSight && bar.childAt(place.right(), 1) == nullptr) Choose(item);
-  }
+  // Beside the titles: a bar that the keyboard opened, or that a popup passed a press on to without
+  // its release, would close the menu that the next press opens.
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.rect().bottomRight());
+  Choose(item);
 }
 
 void LineHands::UsePopup(const QStringList& words) {
   QWidget* const popup = QApplication::activePopupWidget();
   if (popup == nullptr) return;
   if (words[1] == QLatin1String("away")) {
-    QMouseEvent outside(QEvent::MouseButtonPress, QPoint(-5, -5),
-                        popup->mapToGlobal(QPoint(-5, -5)), Qt::LeftButton, Qt::LeftButton, {});
+    // Clear of the menu bar, which would wait for the release of the button.
+    const QPoint place(popup->width() + 5, popup->height() + 5);
+    QMouseEvent outside(QEvent::MouseButtonPress, place, popup->mapToGlobal(place), Qt::LeftButton,
+                        Qt::LeftButton, {});
     QApplication::sendEvent(popup, &outside);
     popup->close();
   } else if (words[1] == QLatin1String("key")) {

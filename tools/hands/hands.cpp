@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <functional>
 
@@ -45,6 +46,14 @@ void ClickIn(QWidget& menu, const QRect& item) {
   QTest::mouseClick(&menu, Qt::LeftButton, {}, item.center());
 }
 
+// Opened by the mouse or, where a narrow bar has no room for the title, as its letter does.
+void OpenMenu(QMenuBar& bar, QAction& title) {
+  const QToolButton* const more = Hands::MoreTitles(bar);
+  const QRect place = bar.actionGeometry(&title);
+  if (more == nullptr || place.right() < more->x()) return ClickIn(bar, place);
+  bar.setActiveAction(&title);
+}
+
 // One notch after the other, until the place, in pixels of the viewport, is seen.
 void Wheel(QAbstractScrollArea& area, const std::function<QRect()>& place) {
   QWidget& viewport = *area.viewport();
@@ -75,6 +84,11 @@ std::string Hands::FocusName() const {
   return widget != nullptr ? NameOf(*widget) : "";
 }
 
+QToolButton* Hands::MoreTitles(const QMenuBar& bar) {
+  auto* const more = bar.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"));
+  return more != nullptr && more->isVisible() ? more : nullptr;
+}
+
 QAction& Hands::Item(const char* name) const {
   auto* const action = window_.findChild<QAction*>(QString::fromLatin1(name));
   if (action == nullptr) throw HandsFailed(std::string("there is no ") + name);
@@ -95,7 +109,7 @@ void Hands::Choose(const char* menuItem) {
   for (QAction* const title : window_.menuBar()->actions()) {
     QMenu& menu = *title->menu();
     if (!menu.actions().contains(&item)) continue;
-    ClickIn(*window_.menuBar(), window_.menuBar()->actionGeometry(title));
+    OpenMenu(*window_.menuBar(), *title);
     if (!menu.isVisible()) throw HandsFailed(std::string("no menu opened for ") + menuItem);
     ClickIn(menu, menu.actionGeometry(&item));
     return;

@@ -14,6 +14,9 @@
 
 #include "text/document.h"
 
+class QMenuBar;
+class QToolButton;
+
 namespace quill {
 
 class HandsFailed : public std::runtime_error {
@@ -29,9 +32,12 @@ class Hands {
   QWidget& Widget(const char* name) const;
   QTextEdit& View() const;        // of the text
   std::string FocusName() const;  // of the widget that keys go to; empty for none
+  // The bar's own button, with a menu of the titles that a narrow window has no room for; nullptr
+  // where all have room. Its menu lets nobody go on before it is closed.
+  static QToolButton* MoreTitles(const QMenuBar& bar);
 
   void Press(const char* name);       // with the mouse, in its middle
-  void Choose(const char* menuItem);  // through its menu, with the mouse
+  void Choose(const char* menuItem);  // through its menu, with the mouse where that has room
   // Rows count from 0.
   void PickRow(const char* combo, int row);       // from the list that drops down
   void Pick(const char* combo, const char* row);  // the row of that text, blanks at its end apart
