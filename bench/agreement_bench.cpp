@@ -1,5 +1,5 @@
-// Comparing readers, besides the reading of their texts: twenty readers of one novel with 5,000
-// tags each are 190 pairs. Readings that overlap are the worse case: every span of one meets
+// Comparing readers, without the time of reading their texts: twenty readers of one novel, with
+// 5,000 tags each, make 190 pairs. Overlapping readings are the worse case: every span of one meets
 // several of the other.
 #include <benchmark/benchmark.h>
 

@@ -34,7 +34,7 @@ constexpr std::array<std::string_view, 24> kWords = {
     "had",  "year",  "always", "a",         "then", "house",   "waiting", "afternoon",
     "once", "until", "he",     "said",      "at",   "moment",  "while",   "winter"};
 
-// In front of an item of a list.
+// Precedes an item of a list.
 constexpr std::string_view kLabel = "{\\listtext\\pard\\plain \\u8226\\'95\\tab}\\fi-360\\li720 ";
 constexpr std::string_view kRow = "\\trowd\\trgaph108\\cellx2000\\cellx5600\\cellx8600\\intbl ";
 constexpr std::string_view kPicture =

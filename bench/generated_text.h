@@ -1,5 +1,5 @@
-// Rich text for the benchmarks: long, the same at every run, and written as a word processor writes
-// it.
+// Rich text for the benchmarks: long, the same at every run, and written the way a word processor
+// writes it.
 #pragma once
 
 #include <cstdint>
@@ -10,13 +10,13 @@ namespace quill::bench {
 enum class Kind {
   kProse,         // paragraphs with settings, runs, curly quotes: a novel without marks
   kDense,         // the same with fewer settings: nearly two characters in three bytes
-  kMarked,        // the same, with every second word blue and bold in a group of its own
+  kMarked,        // the same, with every second word blue and bold, each in its own group
   kLaidOut,       // prose with items of lists, rows of tables and pictures in it
-  kControlWords,  // settings and nothing that they set: as many bytes, no characters
+  kControlWords,  // settings with nothing to apply to: as many bytes, no characters
 };
 
-// Rich text of at least that many characters, up to the end of a paragraph, at about three bytes a
-// character as a rule.
+// Rich text of at least that many characters, ending with a paragraph; usually about three bytes
+// per character.
 std::string GeneratedText(Kind kind, std::int64_t characters);
 
 }  // namespace quill::bench

@@ -1,7 +1,7 @@
-// Marking by hand: two clicks on a selection, which is a term as a rule and the whole text after a
-// slip of the hand.
+// Marking by hand: two clicks on a selection, which is usually a term and, by accident, the whole
+// text.
 //
-// The term is typed into its box key by key, and back over the selection as one edit.
+// The term is typed into its box key by key, and over the selection as one edit.
 #include <benchmark/benchmark.h>
 
 #include "generated_text.h"

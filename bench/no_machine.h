@@ -1,4 +1,4 @@
-// Dialogs and disk for benchmarks: nobody answers and nothing is stored.
+// Dialogs and a disk for benchmarks: the dialogs are not answered and nothing is stored.
 #pragma once
 
 #include <optional>
@@ -25,7 +25,7 @@ class NoDialogs : public Dialogs {
   Button MsgBox(const MessageBox& /*box*/) override { return Button::kOk; }
 };
 
-// Remembers what was last written, under whatever name, so that a rewrite finds what it replaces.
+// Remembers what was last written, under any name, so that a rewrite finds what it replaces.
 class NoDisk : public Disk {
  public:
   std::string Read(const std::string& path) override {

@@ -1,4 +1,4 @@
-// Parsing on the real window: the search for all items of a list in texts of several lengths, and
+// Parsing on the real window: searching texts of several lengths for all items of a list, and
 // reading a dictionary as long as a list can be.
 #include <algorithm>
 #include <memory>
@@ -47,7 +47,7 @@ class Parser : public ShownProgram {
   Document plain_;
 };
 
-// Made at the first use, and taken down while the toolkit still runs.
+// Created at first use, and destroyed while the toolkit still runs.
 std::unique_ptr<Parser> shownParser;
 
 Parser& Shown() {
@@ -60,8 +60,8 @@ namespace {
 constexpr const char* kWords[] = {"the",     "of",  "before",     "yesterday", "when",
                                   "evening", "she", "remembered", "had",       "year"};
 
-// Pairs of words, each about as frequent as any other in a generated text, and terms that do not
-// occur there; the last item is not searched for.
+// Pairs of words, all about equally frequent in a generated text, and terms that do not occur
+// there. The last item is not searched for.
 std::string Operators(int terms, int pairs) {
   std::string operators;
   for (int i = 0; i <= terms; ++i) {
@@ -72,7 +72,7 @@ std::string Operators(int terms, int pairs) {
   return operators;
 }
 
-// A list of so many terms, of which so many occur.
+// By the number of terms in the list, and how many of them occur.
 void ParseAll(benchmark::State& state) {
   Parser& parser = Shown();
   parser.Use(state.range(0));
@@ -88,7 +88,7 @@ void ParseAll(benchmark::State& state) {
   state.counters["hits"] = hits;
 }
 
-// Up to the limit of a list box, in no order.
+// Up to the limit of a list box, in random order.
 void ReadDictionary(benchmark::State& state) {
   Parser& parser = Shown();
   const auto items = static_cast<int>(state.range(0));

@@ -2,8 +2,8 @@
 // model.
 //
 // The terms are words of the text, so that all lists of more than one item have hits everywhere; a
-// second set has words that never occur. The worst case is a text of one letter and a list of all
-// beginnings of a word of that letter: every place is a hit of almost every term.
+// second set has words that never occur. The worst case is a text of one repeated letter and a list
+// of all prefixes of a word of that letter: every place is a hit of almost every term.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -64,7 +64,7 @@ void Run(benchmark::State& state, Document document, const std::vector<std::u32s
 
 std::vector<std::u32string> Distinct(std::u32string_view text, std::size_t count) {
   std::vector<std::u32string> phrases;
-  // Two words each, from places far apart.
+  // Two words per term, from places far apart.
   const std::size_t stride = text.size() / (count + 1);
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t begin = text.find(U' ', i * stride) + 1;
@@ -80,7 +80,7 @@ void Phrases(benchmark::State& state) {
   Run(state, std::move(document), terms);
 }
 
-// The same beginnings, so that the search is led on, but an ending that the text lacks.
+// The same beginnings, to lead the search on, but with an ending that the text lacks.
 void NoHits(benchmark::State& state) {
   Document document = *rtf::Read(GeneratedText(Kind::kProse, state.range(0)));
   auto terms = Distinct(document.Text(), static_cast<std::size_t>(state.range(1)));
@@ -106,7 +106,7 @@ void PlainPass(benchmark::State& state) {
   state.SetItemsProcessed(state.range(0) * state.iterations());
 }
 
-// By the length of the list and then of the text, which stands last in the name.
+// By the length of the list, then of the text, which comes last in the name.
 void Sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->Unit(benchmark::kMillisecond)->ArgNames({"", "terms"});
   for (const std::int64_t characters : {100'000, 1'000'000, 10'000'000}) {

@@ -1,5 +1,5 @@
-// Reading a dictionary into the parsing list, from the click to the sorted list: in the order of
-// the list, against it, in none, and into a list that another reading has half filled.
+// Reading a dictionary into the parsing list, from the click to the sorted list: in sorted, reverse
+// and random order, and into a list that is already half full.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -57,7 +57,7 @@ void PlainPass(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* benchmark) {
-  // The last is beyond what a list holds.
+  // The last is more than a list can hold.
   for (const int64_t lines : {300, 3'000, 30'000, 60'000}) benchmark->Arg(lines);
   benchmark->Unit(benchmark::kMillisecond);
 }

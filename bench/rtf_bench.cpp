@@ -1,6 +1,6 @@
-// Loading and saving, without the disk: bytes to a document and back.
+// Loading and saving without the disk: from bytes to a document and back.
 //
-// Beside each stands a plain pass over the same bytes, which is what the machine could do at best.
+// Each is accompanied by a plain pass over the same bytes, the best that the machine could do.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -33,7 +33,8 @@ void Load(benchmark::State& state, Kind kind) {
   const std::string bytes = GeneratedText(kind, state.range(0));
   Position characters = 0;
   for (auto _ : state) {
-    // The copy is part of it: the reader keeps the bytes, and they come fresh from a file.
+    // Includes a copy of the bytes: the reader keeps them, and they normally come fresh from a
+    // file.
     const auto document = rtf::Read(bytes);
     if (!document) return state.SkipWithError("the generated text does not load");
     characters = document->Length();
@@ -61,7 +62,7 @@ void SaveNewMarks(benchmark::State& state) {
   Save(state, document);
 }
 
-// Takes every mark of the file off again: each of its groups is dissolved.
+// Removes every mark of the file, so that each of its groups is dissolved.
 void SaveWithoutMarks(benchmark::State& state) {
   Document document = Loaded(Kind::kMarked, state.range(0));
   document.Apply({0, document.Length()}, {.colour = kPlain, .bold = false});

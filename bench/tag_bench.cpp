@@ -1,8 +1,8 @@
-// Tags: what a click costs with a list as long as it can be, of lines of usual length, over a text
+// Tags: what a click costs with the longest possible list, of lines of usual length, over a text
 // with a word for each.
 //
-// The worst case looks at every line: the tag is the last one, or no line tags the same word. A
-// plain pass over the characters of all lines stands beside it.
+// The worst case looks at every line: the tag is the last one, or no line tags the same word. It is
+// accompanied by a plain pass over the characters of all lines.
 #include <benchmark/benchmark.h>
 
 #include <numeric>
@@ -56,7 +56,7 @@ void Check(benchmark::State& state) {
   if (tags.Form().TagList.ListIndex < 0) state.SkipWithError("no tag was found");
 }
 
-// With the rewrite of the file up to the door of the disk.
+// Includes rewriting the file, except for the disk itself.
 void Remove(benchmark::State& state) {
   Tags tags(static_cast<int>(state.range(0)));
   for (auto _ : state) {

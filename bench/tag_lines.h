@@ -8,7 +8,7 @@
 
 namespace quill::bench {
 
-// The word of line i stands at 10 i + 1.
+// The word of line i is at 10 i + 1.
 inline constexpr int kSpacing = 10;
 
 inline std::u32string TagLine(int i) {

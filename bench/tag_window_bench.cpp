@@ -1,4 +1,4 @@
-// Tags on the real window, with a list as long as it can be.
+// Tags on the real window, with the longest possible list.
 #include <QAbstractItemView>
 #include <QTextEdit>
 #include <QtTest>
@@ -40,7 +40,7 @@ class Tags : public ShownProgram {
   }
 };
 
-// Made at the first use, and taken down while the toolkit still runs.
+// Created at first use, and destroyed while the toolkit still runs.
 std::unique_ptr<Tags> shownTags;
 
 Tags& Shown() {
@@ -72,7 +72,7 @@ void Check(benchmark::State& state) {
   if (tags.Form().TagList.ListIndex != row) state.SkipWithError("another row");
 }
 
-// With the rewrite of the file up to the door of the disk.
+// Includes rewriting the file, except for the disk itself.
 void Remove(benchmark::State& state) {
   Tags& tags = Shown();
   const int before = tags.Form().TagList.ListCount();

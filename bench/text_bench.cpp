@@ -1,8 +1,8 @@
-// What a text costs: memory, and the time of what is done to all of it. Prints one table.
+// What a text costs: memory, and the time for operations on all of it. Prints one table.
 //
-// Every run is a process of its own, which loads a file as the program does, so that page faults
-// and peak are those of this text. A figure is the median of the runs; times are those of the
-// processor, so that other work on the machine counts little.
+// Every run is a separate process, which loads a file as the program does, so that page faults and
+// peak are those of this text. Figures are medians of the runs; times are processor times, so that
+// other work on the machine counts little.
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 constexpr std::pair<const char*, Kind> kTexts[] = {
     {"prose", Kind::kProse}, {"dense", Kind::kDense}, {"marked", Kind::kMarked}};
 
-// What one run measured. Times are in milliseconds of the processor, but for `wall`.
+// What one run measured. Times are milliseconds of processor time, except `wall`.
 struct Figures {
   double characters = 0;
   double fileBytes = 0;
@@ -44,7 +44,7 @@ struct Figures {
   double system = 0;
   double faults = 0;
   double heldBytes = 0;  // by the loaded document, its file included
-  double peakBytes = 0;  // the most that was held while it loaded
+  double peakBytes = 0;  // the most held while it loaded
   double save = 0;
   double mark = 0;
   double saveMarked = 0;
@@ -56,7 +56,7 @@ constexpr double Figures::*kAll[] = {&Figures::characters, &Figures::fileBytes, 
                                      &Figures::heldBytes,  &Figures::peakBytes,  &Figures::save,
                                      &Figures::mark,       &Figures::saveMarked, &Figures::walk};
 
-// A figure of /proc/self that the kernel gives in kB.
+// Reads a figure from /proc/self that the kernel gives in kB.
 double Bytes(const char* file, const std::string& name) {
   std::ifstream lines(std::string("/proc/self/") + file);
   for (std::string word; lines >> word;) {
@@ -105,7 +105,7 @@ Document Load(const std::string& path, Figures& figures) {
 }
 
 Figures Measure(const std::string& path) {
-  // What the program itself needs is there before the text is.
+  // Allocates what the program itself needs before there is a text.
   rtf::Write(rtf::Blank());
   Figures figures;
   Document document = Load(path, figures);
@@ -127,7 +127,7 @@ Figures Measure(const std::string& path) {
   return figures;
 }
 
-// Runs the work in a process of its own.
+// Runs the work in a separate process.
 template <class Work>
 Figures Apart(Work work) {
   int ends[2];

@@ -1,5 +1,4 @@
-// The text on the real window, by its length: opening it, the page, and what keys and marks do to
-// it.
+// The text on the real window, by length: opening it, the page, and the effects of keys and marks.
 #include <QAction>
 #include <QScrollBar>
 #include <QTextEdit>
@@ -25,7 +24,7 @@ class Reader : public ShownProgram {
     Disk().content = std::move(text);
     Open();
   }
-  // A laid out text of that many characters.
+  // Shows a text with lists, tables and pictures, of that many characters.
   void Use(std::int64_t characters) {
     if (characters != characters_) Use(GeneratedText(Kind::kLaidOut, characters));
     characters_ = characters;
@@ -33,7 +32,7 @@ class Reader : public ShownProgram {
   void Open() {
     characters_ = 0;
     Form().RichTextBox1.LoadFile(U"novel.tbf");
-    // The window follows at the end of an action.
+    // The window is updated at the end of an action.
     PutCaretAt(0);
   }
   void Choose(const char* item) { Find<QAction>(item).trigger(); }
@@ -53,7 +52,7 @@ class Reader : public ShownProgram {
   std::int64_t characters_ = 0;
 };
 
-// Made at the first use, and taken down while the toolkit still runs.
+// Created at first use, and destroyed while the toolkit still runs.
 std::unique_ptr<Reader> shownReader;
 
 Reader& Shown() {
@@ -71,7 +70,7 @@ void Open(benchmark::State& state) {
   FromRestToRest(state, kNothing, [&] { reader.Open(); });
 }
 
-// Each time one step, from the least size upwards or from the largest downwards.
+// One step at a time, from the smallest size up or from the largest down.
 void Zoom(benchmark::State& state, Qt::Key key, Qt::Key back) {
   Reader& reader = Shown();
   reader.Use(state.range(0));
@@ -95,7 +94,7 @@ void End(benchmark::State& state) {
       [&] { reader.Key(Qt::Key_End, Qt::ControlModifier); });
 }
 
-// To where nobody has been.
+// To a place not yet seen.
 void Drag(benchmark::State& state) {
   Reader& reader = Shown();
   reader.Use(state.range(0));
@@ -108,7 +107,7 @@ void Drag(benchmark::State& state) {
   reader.Bar().setSliderDown(false);
 }
 
-// The next mark stands a few lines on, or thousands.
+// The next mark is a few lines on, or thousands.
 void Find(benchmark::State& state) {
   Reader& reader = Shown();
   reader.Use(state.range(0));
@@ -124,7 +123,7 @@ void Find(benchmark::State& state) {
   if (reader.Text().SelLength != 5) state.SkipWithError("no mark found");
 }
 
-// Two clicks, in the middle.
+// Two clicks, in the middle of the text.
 void Mark(benchmark::State& state) {
   Reader& reader = Shown();
   reader.Use(state.range(0));

@@ -1,8 +1,8 @@
 // Walking: from a click on "Next <A> Marker" to the term found, or to the end of the text.
 //
 // A click looks at the text twice: it clears the underlines, then it looks for the colour. The
-// worst case is a text without a mark, of which a click sees every character; a text full of marks
-// shows what a click costs that finds its term at once.
+// worst case is a text without marks, where a click looks at every character; a text full of marks
+// shows the cost of a click that finds its term at once.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -59,7 +59,7 @@ void NoMark(benchmark::State& state) {
   WalkToTheEnd(state, *rtf::Read(GeneratedText(Kind::kProse, state.range(0))));
 }
 
-// Every word has the other kind's mark: no two neighbours have the same format.
+// Every word is marked as the other kind: no two neighbours have the same format.
 void OnlyMarksOfTheOtherKind(benchmark::State& state) {
   Document document = *rtf::Read(GeneratedText(Kind::kMarked, state.range(0)));
   for (Position at = 0; at < document.Length();) {

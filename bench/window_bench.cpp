@@ -34,7 +34,7 @@ void Wait(int milliseconds) {
   loop.exec();
 }
 
-// A blinking caret is rest.
+// A blinking caret counts as rest.
 void AwaitRest() {
   constexpr int kStep = 50;
   constexpr double kIdle = 5;

@@ -1,7 +1,7 @@
-// The frame of the benchmarks on the real window: the program with its window, and a user who acts
-// when the processor rests and waits until it rests again. A row says how long it took until what
-// came of the action was painted, by the clock, and as counters how much of the processor's time
-// that was (painted_ms) and all that followed until rest (rest_ms).
+// The framework for benchmarks on the real window: the program with its window, and a user who acts
+// when the processor rests and waits until it rests again. A row gives the wall-clock time until
+// the effect of the action was painted and, as counters, the processor time until then (painted_ms)
+// and until rest (rest_ms).
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -33,13 +33,13 @@ class ShownProgram {
   Form1& Form() { return program_.Form(); }
   Program& TheProgram() { return program_; }
   OneFile& Disk() { return disk_; }
-  // Before this the model can be set up without being shown.
+  // Until this call, the model can be set up without being shown.
   void ShowWindow();
   template <class W = QWidget>
   W& Find(const char* name) const {
     return *window_->findChild<W*>(QString::fromLatin1(name));
   }
-  // With the mouse.
+  // Clicks with the mouse.
   void Press(const char* name);
   static void Paint();
 
@@ -50,8 +50,8 @@ class ShownProgram {
   std::unique_ptr<MainWindow> window_;
 };
 
-// Repeats an action, each time after something that is not counted. Both must leave everything as
-// the next ones need it.
+// Repeats an action, each time after a preparation that is not counted. Both must leave everything
+// ready for the next round.
 void FromRestToRest(benchmark::State& state, const std::function<void()>& prepare,
                     const std::function<void()>& act);
 

@@ -10,7 +10,7 @@
 
 namespace quill::bench {
 
-// Every second word of a text, in order; blanks part words.
+// Every second word of a text, in order; words are separated by blanks.
 inline std::vector<Range> EverySecondWord(std::u32string_view text) {
   std::vector<Range> words;
   bool wanted = false;

@@ -1,5 +1,5 @@
-// Rich text, loaded, marked, edited and saved, and loaded again. What is done where is taken from
-// the last bytes of the input, which mostly stand behind the file's last brace.
+// Rich text, loaded, marked, edited, saved and loaded again. The last bytes of the input, usually
+// after the file's last brace, determine what is done where.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -16,7 +16,7 @@
 namespace quill::fuzz {
 namespace {
 
-// One thing to be done to a text.
+// One operation on a text.
 struct Step {
   Range range;
   unsigned look = 0;
@@ -59,7 +59,8 @@ void CheckMarks(const Document& original, const std::vector<Step>& steps) {
   Require(rtf::Write(document) == original.GetSource().bytes,
           "marking and unmarking changed the bytes");
 
-  // A text that is written anew may be longer, once: sizes count from the second round.
+  // A text that is written anew may become longer once, so sizes are compared from the second round
+  // on.
   std::size_t first = 0;
   for (int round = 0; round < 3; ++round) {
     MarkAll(document, steps);
@@ -82,7 +83,7 @@ void CheckEdits(Document document, const std::vector<Step>& steps) {
                                      .substr(step.look % 13, step.look % 4);
     const Attributes attributes =
         range.Length() > 0 ? document.At(range.begin) : Attributes{RGB(255, 0, 0), true, false, 0};
-    // A text of which nothing is left has no sure place for more in a broken file.
+    // In a broken file, a text that has become empty has no certain place for new characters.
     const bool whole = range.Length() == document.Length();
     if (whole || !document.CanDelete(range)) {
       Mark(document, range, step.look);
@@ -102,7 +103,7 @@ void Check(std::string bytes) {
   const std::string_view whole = bytes;
   const std::optional<Document> document = rtf::Read(bytes);
   if (!document) return;
-  // Longer texts hold the same things more often.
+  // Longer texts only repeat the same things.
   constexpr Position kLongest = 3000;
   if (document->Length() == 0 || document->Length() > kLongest) return;
   const std::vector<Step> steps = StepsOf(whole, document->Length());

@@ -1,5 +1,5 @@
-// Any bytes, read. What loads is a sound document, and comes back as the same bytes where it was
-// rich text.
+// Reads any bytes. What loads must be a sound document and, if it was rich text, be saved as the
+// same bytes.
 #include <cstddef>
 #include <cstdint>
 #include <optional>

@@ -18,7 +18,7 @@ as_root() {
   fi
 }
 
-# install PACKAGE...: installs those that are missing; with none missing it asks nobody.
+# install PACKAGE...: installs the missing ones; if none is missing, it asks for nothing.
 install() {
   command -v dpkg-query >/dev/null ||
     fail "this is no Debian system; install what stands in scripts/packages.sh and build with CMake"
@@ -41,13 +41,13 @@ install() {
     fail "apt-get could not install$missing (its reasons stand above; is there a network?)"
 }
 
-# build PRESET [TARGET]: configures where that is not done yet, and builds what is not up to date.
+# build PRESET [TARGET]: configures if that has not been done, and builds what is not up to date.
 build() {
   (cd "$top" && configure "$1" && cmake --build --preset "$1" ${2:+--target "$2"}) </dev/null ||
     fail "the build failed (preset $1)"
 }
 
-# The build configures itself anew for every change but one of the presets.
+# The build reconfigures itself after every change except one of the presets.
 configure() {
   if [ -e "build/$1/build.ninja" ] && [ ! CMakePresets.json -nt "build/$1/CMakeCache.txt" ]; then
     return 0

@@ -2,8 +2,8 @@
 
 program_packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libicu-dev nlohmann-json3-dev \
   libcli11-dev libpugixml-dev"
-# What an open window needs besides: Wayland sessions, and typefaces: those of everyday texts, which
-# have Greek, Cyrillic, Hebrew and Arabic too, Chinese, Japanese and Korean, and symbols.
+# What an open window also needs: Wayland support, and typefaces: those of everyday texts, including
+# Greek, Cyrillic, Hebrew and Arabic; Chinese, Japanese and Korean; and symbols.
 window_packages="qt6-wayland fonts-dejavu-core fonts-liberation fonts-wqy-microhei fonts-symbola"
 test_packages="libgtest-dev fonts-dejavu-core"
 check_packages="clang libclang-rt-14-dev clang-tidy clang-format libbenchmark-dev \

@@ -1,7 +1,7 @@
 // play FILE: plays a scenario on the program without a window system.
 //
-// The exit status is 0 when everything was as expected, 1 when an expectation failed, and 2 when
-// the scenario broke off or could not be read.
+// The exit status is 0 if everything was as expected, 1 if an expectation failed, and 2 if the
+// scenario broke off or could not be read.
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
   if (argc != 2) return Refuse("give one scenario to play: play FILE");
   const std::string name = argv[1];
   std::ifstream file(name, std::ios::binary);
-  // A folder opens and fails at its first byte.
+  // A folder can be opened, but reading its first byte fails.
   file.peek();
   if (!file.is_open() || file.bad()) return Refuse(name + " cannot be read");
   const std::string scenario{std::istreambuf_iterator<char>(file), {}};

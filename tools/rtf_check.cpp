@@ -1,5 +1,5 @@
-// Tells of files whether the program can be trusted with them: each is loaded, marked, saved,
-// loaded again and unmarked, and one line says what came of it.
+// Checks whether the program can be trusted with files: each is loaded, marked, saved, loaded again
+// and unmarked, and the result is printed as one line.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -40,7 +40,7 @@ constexpr const char* kUsage =
 
 struct Options {
   std::optional<fs::path> copies;
-  unsigned seconds = 0;  // for one file; 0 for as long as it takes
+  unsigned seconds = 0;  // per file; 0 for no limit
   std::vector<fs::path> files;
 };
 
@@ -65,7 +65,7 @@ std::optional<Options> OptionsOf(const std::vector<std::string>& arguments) {
   return options;
 }
 
-// What came of one file.
+// The result for one file.
 struct Finding {
   std::string line;
   bool good = true;
@@ -80,7 +80,7 @@ struct Finding {
 
 fs::path Absolute(const fs::path& file) { return fs::absolute(file).lexically_normal(); }
 
-// The innermost folder that holds all of the files.
+// The innermost folder that contains all the files.
 fs::path CommonFolder(const std::vector<fs::path>& files) {
   fs::path common = Absolute(files.front()).parent_path();
   for (const fs::path& file : files) {
@@ -113,8 +113,8 @@ class Copies {
   fs::path common_;
 };
 
-// A line for each mark: its begin, its end, the attributes that it has (colour, bold, underline and
-// raised position), and the word.
+// A line for each mark: its start, its end, its attributes (colour, bold, underline and raised
+// position), and the word.
 std::string ListOf(const Document& document, const std::vector<Range>& marks) {
   std::ostringstream list;
   for (const Range& mark : marks) {
@@ -150,7 +150,7 @@ void CheckMarks(Document document, const fs::path& file, const Copies& copies, F
   again = rtf::Read(unmarked);
   finding.Add("and after the marks are taken off",
               again ? Difference(original, *again) : "it does not load");
-  // In a damaged file something may stay.
+  // In a damaged file, traces may remain.
   const bool clean = !original.GetSource().wellFormed || SameButForColours(original, unmarked);
   finding.Add("and the same bytes but for the table of colours", clean ? "" : "they differ");
 }
@@ -174,13 +174,13 @@ Finding Check(const fs::path& file, const Copies& copies) {
   return finding;
 }
 
-// Prints what came of a file; whether that is good.
+// Prints the result for a file. Returns whether it is good.
 bool Report(const fs::path& file, const Finding& finding) {
   std::cout << file.string() << ": " << finding.line << std::endl;
   return finding.good;
 }
 
-// Checks a file in a process of its own, so that nothing that befalls it ends the whole.
+// Checks a file in a separate process, so that a crash does not end the whole run.
 bool CheckWithin(unsigned seconds, const fs::path& file, const Copies& copies) {
   const pid_t child = fork();
   if (child < 0) throw std::runtime_error("no process could be started");

@@ -25,7 +25,7 @@ QDialog* DialogHands::Open() {
   if (QWidget* const modal = QApplication::activeModalWidget()) {
     return modal->isVisible() ? qobject_cast<QDialog*>(modal) : nullptr;
   }
-  // A question about the text leaves the wheel to it, and so is not modal to the toolkit.
+  // A question about a term lets the wheel scroll the text, so to the toolkit it is not modal.
   const QWidgetList windows = QApplication::topLevelWidgets();
   const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
     return window->isVisible() && qobject_cast<const QDialog*>(window) != nullptr;
@@ -34,8 +34,8 @@ QDialog* DialogHands::Open() {
 }
 
 void DialogHands::UseTopmost() {
-  // A dialog may open another one while it is used: the next look must not wait for the end of
-  // this one.
+  // A dialog may open another one while it is in use: the next look must not wait for this one to
+  // end.
   timer_.start(kPause);
   QDialog* const dialog = Open();
   if (dialog == nullptr) return;

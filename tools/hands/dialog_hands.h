@@ -1,4 +1,4 @@
-// A user's hands on the dialogs that open over the window while an action of theirs still runs.
+// A user's hands on the dialogs that open over the window during an action of that user's.
 #pragma once
 
 #include <QDialog>
@@ -10,8 +10,8 @@
 
 namespace quill {
 
-// Uses whatever dialog opens, as long as it lives. A dialog that nobody knows what to do with, and
-// one whose use fails, is closed as if refused.
+// While it lives, uses every dialog that opens. A dialog without a use, or whose use fails, is
+// closed as if cancelled.
 class DialogHands {
  public:
   // Looks at the dialog and closes it, by mouse or keys.
@@ -22,14 +22,15 @@ class DialogHands {
   // The dialog that takes the user's hands now; nullptr for none.
   static QDialog* Open();
 
-  // What to do with the dialogs to come, one each, in this order.
+  // What to do with the coming dialogs, one each, in this order.
   void AtNext(Use use) { waiting_.push_back(std::move(use)); }
-  // What to do with the dialogs that no use waits for.
+  // What to do with dialogs for which no use is waiting.
   void AtOthers(Use use) { others_ = std::move(use); }
-  // Throws HandsFailed where a dialog could not be used, none was waited for, or one did not come.
+  // Throws HandsFailed if a dialog could not be used, was not expected, or did not open.
   void Finish();
 
-  // Types the name of a file of the folder on show into a dialog of the toolkit's own, and Enter.
+  // Types the name of a file in the current folder, then Enter, into one of the toolkit's own file
+  // dialogs.
   static void TypeName(QDialog& fileDialog, const char* name);
   static void Press(QDialog& messageBox, QMessageBox::StandardButton button);
 

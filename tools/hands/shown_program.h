@@ -1,4 +1,4 @@
-// A program with its window, on a disk and dialogs of one's choice.
+// A program with its window, on a given disk and given dialogs.
 #pragma once
 
 #include "program/program.h"

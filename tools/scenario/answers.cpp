@@ -8,7 +8,7 @@
 namespace quill::scenario {
 namespace {
 
-// A dialog as messages name it, in one line.
+// A dialog's name in messages, in one line.
 std::string Called(std::string_view kind, const std::u32string& title) {
   return std::string(kind) + ' ' + Json(ToUtf8(title)).dump();
 }
@@ -32,7 +32,7 @@ int NumberOf(Button button) {
   return kNumbers[static_cast<int>(button)];
 }
 
-// Nothing where the message box lacks the button.
+// Nothing if the message box lacks the button.
 std::optional<Button> ButtonFor(AnswerStep::Kind answer, MessageBox::Buttons buttons) {
   const bool asksYesNo = buttons == MessageBox::Buttons::kYesNo;
   if (answer == AnswerStep::kOk && !asksYesNo) return Button::kOk;

@@ -1,4 +1,4 @@
-// The dialogs of a scenario: they are answered from a queue and tell what was shown.
+// The dialogs of a scenario: they are answered from a queue and print what they showed.
 #pragma once
 
 #include <deque>
@@ -9,17 +9,17 @@
 
 namespace quill::scenario {
 
-// Prints one JSON object as a line. All but ASCII is escaped, as some characters of a text end a
-// line for some readers.
+// Prints a JSON object as one line. Everything but ASCII is escaped, because some readers end a
+// line at other characters, too.
 void PrintLine(std::ostream& out, const Json& object);
 
-// A dialog that opens while no answer waits, or one that does not fit it, throws ScenarioError.
+// A dialog for which no answer is waiting, or an unsuitable one, throws ScenarioError.
 class ScriptedDialogs final : public Dialogs {
  public:
-  // Each dialog prints one line there when it returns. The stream must outlive the dialogs.
+  // Each dialog prints one line to the stream when it returns. The stream must outlive the dialogs.
   explicit ScriptedDialogs(std::ostream& out) : out_(out) {}
 
-  // Puts an answer behind those that wait; `line` is its place in the scenario.
+  // Queues an answer; `line` is its place in the scenario.
   void Add(AnswerStep answer, int line) { waiting_.push_back({std::move(answer), line}); }
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,

@@ -8,30 +8,30 @@
 
 namespace quill::scenario {
 
-// A scenario that cannot go on: a step that is wrong, or a modal dialog that finds no fitting
-// answer. It is no failed statement of the program and passes through all of its handlers; the
-// program may not be used afterwards. The message is one line without the place in the scenario.
+// A scenario that cannot continue: an invalid step, or a modal dialog without a suitable answer. It
+// is not a failed statement of the program and passes through all handlers; the program must not be
+// used afterwards. The message is one line, without the place in the scenario.
 class ScenarioError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// Words are separated by blanks and tabs. Every member throws ScenarioError where the line goes on
-// otherwise than asked for; `what` names in the message what should stand there.
+// Words are separated by blanks and tabs. Every member throws ScenarioError if the line does not
+// continue as asked for; in the message, `what` names what was expected.
 class LineReader {
  public:
   explicit LineReader(std::string_view line) : rest_(line) {}
 
   bool AtEnd();
-  // The next character behind blanks begins a text.
+  // Whether the next character after blanks begins a text.
   bool AtText();
   // A bare word.
   std::string_view Word(std::string_view what);
   // A text in double quotes, its escapes resolved.
   std::u32string Text(std::string_view what);
-  // Decimal digits. A number beyond all that can be counted comes out as the greatest.
+  // Decimal digits. A number that is too large becomes the largest possible one.
   std::int64_t Number(std::string_view what);
-  // All that remains, without the blanks in front; it must not be empty.
+  // The rest of the line, without leading blanks; it must not be empty.
   std::string_view Rest(std::string_view what);
   // The line must have ended.
   void End();

@@ -1,5 +1,5 @@
-// Plays scenarios: text files that say, one step a line, what a user does, what the user answers
-// and what is to be seen.
+// Plays scenarios: text files that say, one step per line, what a user does and answers, and what
+// should be seen.
 #pragma once
 
 #include <iosfwd>
@@ -15,19 +15,19 @@ namespace quill::scenario {
 enum class Outcome {
   kPassed = 0,
   kUnexpected = 1,  // an `expect` found something else
-  kBroken = 2,      // a wrong step or a dialog without a fitting answer ended the run
+  kBroken = 2,      // an invalid step, or a dialog without a suitable answer, ended the run
 };
 
 class Player {
  public:
-  // Dumps go to `out`, messages to `err`. All must outlive the player; the dialogs are those of
-  // the program.
+  // Dumps go to `out`, messages to `err`. All must outlive the player; the dialogs must be the
+  // program's.
   Player(Program& program, User& user, ScriptedDialogs& dialogs, std::ostream& out,
          std::ostream& err)
       : program_(program), user_(user), dialogs_(dialogs), out_(out), err_(err) {}
 
   // Plays all lines of a scenario; messages begin with its name and the line's number. A line that
-  // is no step is found when it is reached. The program may not be used after kBroken.
+  // is not a step is found only when it is reached. The program must not be used after kBroken.
   Outcome Play(std::string_view name, std::string_view scenario);
 
  private:
@@ -53,7 +53,7 @@ class Player {
   bool unexpected_ = false;
 };
 
-// Plays one scenario on a new program and the disk.
+// Plays one scenario on a new program and the real disk.
 Outcome PlayOnNewProgram(std::string_view name, std::string_view scenario, std::ostream& out,
                          std::ostream& err);
 

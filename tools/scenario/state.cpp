@@ -28,7 +28,7 @@ Json ValueOf(int number) { return number; }
 Json ValueOf(Position place) { return place; }
 
 Json ValueOf(double number) {
-  constexpr double kExact = 9007199254740992;  // doubles count by ones up to here
+  constexpr double kExact = 9007199254740992;  // up to here doubles hold every whole number
   if (number != std::floor(number) || std::abs(number) > kExact) return number;
   return static_cast<std::int64_t>(number);
 }
@@ -38,7 +38,7 @@ Json ValueOf(const WorkValue<T>& value) {
   return value.IsEmpty() ? Json() : ValueOf(value.Get());
 }
 
-// Runs of characters that print equal; a raised position prints as such, whatever its height.
+// Runs of characters that print alike; a raised position prints as just that, whatever its height.
 Json RunsOf(const Document& document) {
   struct Shown {
     Colour colour;

@@ -12,7 +12,7 @@ namespace quill::scenario {
 // Focus and Ended.
 Json State(const Program& program);
 
-// One member of that: "NAME.MEMBER", "Focus" or "Ended". Throws ScenarioError for any other
+// One member of that object: "NAME.MEMBER", "Focus" or "Ended". Throws ScenarioError for any other
 // target.
 Json StateMember(const Program& program, std::string_view target);
 

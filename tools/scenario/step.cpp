@@ -51,8 +51,7 @@ Step ParseAnswer(LineReader& line) {
   throw ScenarioError("no answer is called " + std::string(word));
 }
 
-// Whoever walks through a value, to compare or print it, goes a call deeper at each of its
-// brackets.
+// Comparing or printing a value recurses at each of its brackets.
 bool IsShallow(int depth, Json::parse_event_t /*event*/, Json& /*parsed*/) {
   constexpr int kDeepest = 100;
   if (depth > kDeepest) throw ScenarioError("the value is nested too deep");

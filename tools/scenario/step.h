@@ -1,4 +1,4 @@
-// The steps of a scenario, as they stand in its lines. Names are not looked up yet.
+// The steps of a scenario, as its lines have them. Names are not looked up yet.
 #pragma once
 
 #include <cstdint>
@@ -50,10 +50,10 @@ struct DumpStep {};
 using Step = std::variant<ClickStep, PickStep, TypeStep, EnterStep, SelectStep, CloseStep,
                           AnswerStep, ExpectStep, DumpStep>;
 
-// Whether the line is blank or a comment: `#` is its first character that is no blank.
+// Whether the line is blank or a comment (its first character other than a blank is `#`).
 bool IsSkipped(std::string_view line);
 
-// Reads a line, without its line end, that is not skipped. Throws ScenarioError where it is no
+// Reads a line, without its line end, that is not skipped. Throws ScenarioError if it is not a
 // step.
 Step ParseStep(std::string_view line);
 

@@ -7,9 +7,9 @@
 
 namespace quill::scenario {
 
-// A user of the window without a window system: every action goes straight to the program. A user
-// of the real window overrides all of them with its mouse and keyboard. Actions on controls out of
-// reach, and all after the program has ended, do nothing.
+// A user without a window system: every action goes straight to the program. A user of the real
+// window overrides all actions with mouse and keyboard. Actions on controls out of reach, and all
+// actions after the program has ended, do nothing.
 class User {
  public:
   // The program must outlive its user.

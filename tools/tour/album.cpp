@@ -12,7 +12,7 @@
 namespace quill::tour {
 namespace {
 
-// Its title bar is the desktop's, and lacks here: a line sets it off.
+// The desktop's title bar is missing here, so a line sets the dialog off.
 void DrawOver(QPixmap& picture, const QWidget& window, QWidget& dialog) {
   const QPixmap grabbed = dialog.grab();
   const QPoint place = dialog.mapToGlobal(QPoint()) - window.mapToGlobal(QPoint());
@@ -22,7 +22,7 @@ void DrawOver(QPixmap& picture, const QWidget& window, QWidget& dialog) {
   painter.drawRect(QRect(place, dialog.size()).adjusted(-1, -1, 0, 0));
 }
 
-// The colours of a picture, those that there is most of first.
+// The colours of a picture, the most frequent first.
 std::vector<QRgb> Colours(const QImage& picture) {
   std::unordered_map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y) {
@@ -36,9 +36,9 @@ std::vector<QRgb> Colours(const QImage& picture) {
   return colours;
 }
 
-// In 256 colours, which is a third of the bytes: a window has few, but for the edges of its
-// letters. One of those that are nearly alike comes first, so that the few pixels of a mark keep
-// its colour, then whatever there is most of.
+// In 256 colours, for a third of the bytes: apart from the edges of its letters, a window has few.
+// First come colours that differ clearly, so that the few pixels of a mark keep theirs, then the
+// most frequent of the others.
 QImage Reduced(const QImage& picture) {
   const std::vector<QRgb> colours = Colours(picture);
   std::unordered_set<QRgb> kinds;

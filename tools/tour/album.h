@@ -9,11 +9,11 @@ namespace quill::tour {
 
 class Album {
  public:
-  // Pictures go to the folder, which is made where it is missing.
+  // Pictures go to the folder, which is created if it is missing.
   explicit Album(const QString& folder);
 
-  // The window, and the dialog that stands over it, as NUMBER-NAME.png; they are numbered from 01.
-  // Throws std::runtime_error where that can't be written.
+  // Saves the window, with the dialog over it, as NUMBER-NAME.png, numbered from 01. Throws
+  // std::runtime_error if the file cannot be written.
   void Take(QWidget& window, const std::string& name, QWidget* dialog = nullptr);
 
  private:

@@ -19,7 +19,7 @@ void CopyExample(const QString& folder, const QString& name) {
   }
 }
 
-// The folder that is asked for, or a new one that stays.
+// The given folder, or a new one, which is not removed.
 QString PictureFolder(const QStringList& arguments) {
   if (arguments.size() > 1) return QDir(arguments[1]).absolutePath();
   QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/quillorandix-tour-XXXXXX"));
@@ -45,15 +45,15 @@ void PlayTour(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The offscreen platform complains of every window that is raised.
+  // The offscreen platform complains about every window that is raised.
   if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   }
-  // Dialogs of the desktop's own can't be typed into.
+  // The desktop's own dialogs cannot be typed into.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   quill::Application application(argc, argv);
   quill::SetLook(application);
-  // A list that dropped down is clicked at once.
+  // Lists that have just dropped down are clicked at once.
   QApplication::setDoubleClickInterval(1);
   try {
     PlayTour(QApplication::arguments());

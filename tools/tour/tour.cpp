@@ -42,7 +42,7 @@ void Tour::Play() {
 }
 
 const std::vector<std::u32string>& Tour::Tags() {
-  // A tag is longer than a line: two literals are one of them.
+  // A tag is longer than a line: two literals make one tag.
   // NOLINTBEGIN(bugprone-suspicious-missing-comma)
   static const std::vector<std::u32string> kTags = {
       U"t_op(1\\ 37\\ 50\\ 3 October 1911\\ first reading\\ reader A\\ lexematic\\ b_operator\\ "
@@ -236,7 +236,7 @@ void Tour::ComeToFront() {
 
 void Tour::FinishDialogs() {
   dialogHands_.Finish();
-  // Without a window manager nobody gives the window back its keys.
+  // Without a window manager, the window does not get the keyboard back.
   ComeToFront();
 }
 

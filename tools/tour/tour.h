@@ -1,5 +1,5 @@
-// A tour of the program: a short story on the real window, from the opening of the text to its last
-// tag, by mouse and keyboard.
+// A tour of the program: a short story worked through on the real window, with mouse and keyboard,
+// from opening the text to its last tag.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ class Tour : private ShownProgram<PosixDisk, WindowDialogs>, private Hands {
   // saves is written there.
   Tour(const QString& folder, Album& album);
 
-  // Throws HandsFailed where a step cannot be done or does not do what it should.
+  // Throws HandsFailed if a step cannot be done or does not do what it should.
   void Play();
   // The lines of the tag list after the tour.
   static const std::vector<std::u32string>& Tags();
@@ -48,7 +48,7 @@ class Tour : private ShownProgram<PosixDisk, WindowDialogs>, private Hands {
   void Describe(const char* tagClass, const char* op, const char* mode, const char* type,
                 const char* granularity, const char* value);
   void Refer(const char* term);
-  // Where it stands first in the text.
+  // Where the term first occurs in the text.
   Position Find(const char* term) const;
   Position MiddleOf(const char* term) const;
   void ExpectFound(const char* term) const;
