@@ -3,7 +3,10 @@
 
 namespace quill::rtf {
 
-constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool IsLetter(char c) {
+  const int lower = c | 0x20;  // no other character becomes a letter by this
+  return lower >= 'a' && lower <= 'z';
+}
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 constexpr char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }

@@ -75,7 +75,7 @@ void Lexer::Word(Token& token) {
   token.kind = Token::kWord;
   const Offset begin = at_;
   while (!AtEnd() && IsLetter(Here())) ++at_;
-  token.word = bytes_.substr(begin, at_ - begin);
+  token.word = {bytes_.data() + begin, at_ - begin};
   Number(token);
   if (!AtEnd() && Here() == ' ') ++at_;
   if (token.word == "bin" && token.number > 0) {
