@@ -48,7 +48,7 @@ class PictureWalk {
         first_ = token;
         return true;
       }
-      if (token.kind == Token::kWord) Take(token);
+      if (token.kind == Token::kWord) ReadWord(token);
     }
     return false;
   }
@@ -64,8 +64,8 @@ class PictureWalk {
       CountBraces(token);
       if (!inPicture_) break;
       if (depth_ != pictureDepth_) continue;
-      if (token.kind == Token::kText) TakeHex(token, data, high);
-      if (token.kind == Token::kWord && token.word == "bin") TakeBinary(token, data);
+      if (token.kind == Token::kText) AppendHex(token, data, high);
+      if (token.kind == Token::kWord && token.word == "bin") AppendBinary(token, data);
     }
     return data;
   }
@@ -89,7 +89,7 @@ class PictureWalk {
     pixels_ = false;
   }
 
-  void Take(const Token& token) {
+  void ReadWord(const Token& token) {
     if (token.word == "objw") width_.goal = token.number;
     if (token.word == "objh") height_.goal = token.number;
     if (!inPicture_ || depth_ != pictureDepth_) return;
@@ -102,7 +102,7 @@ class PictureWalk {
     if (token.word == "pngblip" || token.word == "jpegblip") pixels_ = true;
   }
 
-  void TakeHex(const Token& token, std::string& data, int& high) const {
+  void AppendHex(const Token& token, std::string& data, int& high) const {
     for (const char c : lexer_.BytesOf(token)) {
       const int digit = HexValue(c);
       if (digit < 0) continue;
@@ -115,7 +115,7 @@ class PictureWalk {
     }
   }
 
-  void TakeBinary(const Token& token, std::string& data) const {
+  void AppendBinary(const Token& token, std::string& data) const {
     const std::string_view bytes = lexer_.BytesOf(token);
     const auto length = static_cast<std::size_t>(std::max(token.number, 0));
     data += bytes.substr(bytes.size() - std::min(length, bytes.size()));

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "rtf/reading/text_reader.h"
+#include "rtf/reading/parser.h"
 #include "rtf/writing/plain_text.h"
 
 namespace quill::rtf {
@@ -29,12 +29,12 @@ std::optional<Document> Read(std::string bytes) try {
     if (!richText || richText->size() > kLongestOrigin) return std::nullopt;
     bytes = std::move(*richText);
   }
-  TextReader reader(std::move(bytes), {});
-  Document document = reader.Read();
-  if (!reader.TableCameLate()) return document;
+  Parser parser(std::move(bytes), {});
+  Document document = parser.Parse();
+  if (!parser.TableCameLate()) return document;
   // A table behind the first characters holds for them too: read them with it.
   const Source& source = document.GetSource();
-  return TextReader(source.bytes, source.colours).Read();
+  return Parser(source.bytes, source.colours).Parse();
 } catch (const std::bad_alloc&) {
   return std::nullopt;
 }

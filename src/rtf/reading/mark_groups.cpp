@@ -54,9 +54,10 @@ void MarkGroupFinder::GroupIsCharacter() {
 
 MarkGroupFinder::Place MarkGroupFinder::Here() const { return {open_, found_.size()}; }
 
-void MarkGroupFinder::GoBack(Place place) {
+void MarkGroupFinder::GroupWasCharacter(Place place) {
   open_ = std::move(place.open);
   found_.resize(place.found);
+  GroupIsCharacter();
 }
 
 std::vector<MarkGroup> MarkGroupFinder::Take() {

@@ -27,11 +27,11 @@ class MarkGroupFinder {
   // The group opened last turns out to be one character.
   void GroupIsCharacter();
 
-  // What is known at one place of the file, to come back to.
+  // What is known at one place of the file.
   struct Place;
   Place Here() const;
-  // Forgets what has come since; what was told in between must have been all of a group.
-  void GoBack(Place place);
+  // The group opened last in front of a place turns out to be one character. It is closed by now.
+  void GroupWasCharacter(Place place);
 
   // In the order of their opening braces.
   std::vector<MarkGroup> Take();

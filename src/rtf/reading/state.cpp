@@ -48,8 +48,7 @@ void StateStack::Open() {
   }
 }
 
-bool StateStack::Close() {
-  if (depth_ == 0) return false;
+void StateStack::Close() {
   --depth_;
   Level& level = levels_.back();
   if (changed_ || nowId_ != level.state) {
@@ -59,7 +58,6 @@ bool StateStack::Close() {
     changed_ = false;
   }
   if (--level.groups == 0) levels_.pop_back();
-  return true;
 }
 
 std::size_t StateStack::Hash::operator()(const State& state) const {

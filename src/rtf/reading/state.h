@@ -41,8 +41,8 @@ class StateStack {
   FormatId Format();
 
   void Open();
-  // Returns false, and changes nothing, where no group is open.
-  bool Close();
+  // A group must be open.
+  void Close();
   std::size_t Depth() const { return depth_; }
 
  private:

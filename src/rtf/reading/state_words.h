@@ -13,6 +13,7 @@ struct Tables {
   ColourTable colours;
   std::int32_t defaultFont = 0;
   const CodePage* standardPage = nullptr;  // of the document
+  bool pageIsNumbered = false;             // it was told by its number
 };
 
 // Carries out a word of the state. Returns what it sets of the four attributes, where it sets

@@ -78,32 +78,32 @@ void FontTable::Read(Lexer& lexer, const CodePage& standard, std::uint32_t fallb
     } else if (token.kind == Token::kClose) {
       --depth;
     } else if (depth <= kDeepest) {
-      Take(token, lexer.BytesOf(token));
+      Read(token, lexer.BytesOf(token));
     }
   }
   Finish();
 }
 
-void FontTable::Take(const Token& token, std::string_view bytes) {
+void FontTable::Read(const Token& token, std::string_view bytes) {
   if (token.kind == Token::kWord) {
-    TakeWord(token);
+    ReadWord(token);
   } else if (token.kind == Token::kHex && token.number >= 0) {
     const char byte = static_cast<char>(token.number);
-    TakeName({&byte, 1});
+    ReadName({&byte, 1});
   } else if (token.kind == Token::kText) {
     const std::size_t end = bytes.find(';');
-    TakeName(bytes.substr(0, end));
+    ReadName(bytes.substr(0, end));
     if (end != std::string_view::npos) Finish();
   }
 }
 
-void FontTable::TakeName(std::string_view bytes) {
+void FontTable::ReadName(std::string_view bytes) {
   const std::size_t standIns = std::min<std::size_t>(bytes.size(), fallbackLeft_);
   fallbackLeft_ -= static_cast<std::uint32_t>(standIns);
   entry_.bytes += bytes.substr(standIns);
 }
 
-void FontTable::TakeWord(const Token& token) {
+void FontTable::ReadWord(const Token& token) {
   const Word word = LookUp(token.word).word;
   if (word == Word::kFont) {
     Finish();

@@ -45,9 +45,9 @@ class FontTable {
     std::u32string name;
     std::string bytes;  // what follows of the name, in the font's own code page
   };
-  void Take(const Token& token, std::string_view bytes);
-  void TakeWord(const Token& token);
-  void TakeName(std::string_view bytes);
+  void Read(const Token& token, std::string_view bytes);
+  void ReadWord(const Token& token);
+  void ReadName(std::string_view bytes);
   void EndBytes();
   void Finish();
   const CodePage& PageOf(const Entry& entry) const;

@@ -24,7 +24,7 @@ class Patcher {
  public:
   explicit Patcher(const Document& document);
 
-  std::string Take();
+  std::string Write();
 
  private:
   bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
@@ -99,7 +99,7 @@ Patcher::Patcher(const Document& document)
   }
 }
 
-std::string Patcher::Take() {
+std::string Patcher::Write() {
   const bool nothing = document_.Cuts().empty() && !origins_.HasTyped() && !HasChanged();
   if (nothing) return source_.bytes;
 
@@ -340,6 +340,6 @@ bool Patcher::EndsInText(std::size_t character) const {
 
 }  // namespace
 
-std::string Patched(const Document& document) { return Patcher(document).Take(); }
+std::string Patched(const Document& document) { return Patcher(document).Write(); }
 
 }  // namespace quill::rtf

@@ -92,7 +92,7 @@ class Rewriter {
  public:
   explicit Rewriter(const Document& document) : document_(document), colours_(noTable_) {}
 
-  std::string Take();
+  std::string Write();
 
  private:
   void Open(const Format& format);
@@ -104,7 +104,7 @@ class Rewriter {
   std::string body_;
 };
 
-std::string Rewriter::Take() {
+std::string Rewriter::Write() {
   const FormatNumbers& ids = document_.FormatIds();
   for (std::size_t i = 0; i < ids.size(); ++i) {
     const Format& format = document_.Formats()[ids[i]];
@@ -141,6 +141,6 @@ void Rewriter::Put(std::size_t character, const FontFace& face) {
 
 }  // namespace
 
-std::string Rewritten(const Document& document) { return Rewriter(document).Take(); }
+std::string Rewritten(const Document& document) { return Rewriter(document).Write(); }
 
 }  // namespace quill::rtf
