@@ -272,38 +272,13 @@ TEST(RtfWriter, PutsTypedCharactersIn) {
 
 // A file of random pieces of all that matters to the writer.
 std::string RandomFile(std::mt19937& random) {
-  static const char* const kPieces[] = {"a",
-                                        "b",
-                                        "word ",
-                                        "\\'e9",
-                                        "\\u8217?",
-                                        "\\uc0\\u8217 ",
-                                        "{",
-                                        "}",
-                                        "{\\b ",
-                                        "{\\cf1\\b ",
-                                        "{\\cf0\\b0 ",
-                                        "{\\up3 ",
-                                        "\\par\n",
-                                        "\\b",
-                                        "\\b0 ",
-                                        "\\cf2 ",
-                                        "\\ul",
-                                        "\\plain ",
-                                        "\\-",
-                                        "{\\*\\x y}",
-                                        "{\\pict 0}",
-                                        "\\rtlch ",
-                                        "\\ltrch",
-                                        "\r\n",
-                                        "{\\footnote z}",
-                                        "\\cell ",
-                                        "\\row ",
-                                        "\\intbl ",
-                                        "\\pard ",
-                                        "{\\ulnone ",
-                                        "7",
-                                        "-"};
+  // clang-format off
+  static const char* const kPieces[] = {
+      "a", "b", "word ", "\\'e9", "\\u8217?", "\\uc0\\u8217 ", "{", "}", "{\\b ", "{\\cf1\\b ",
+      "{\\cf0\\b0 ", "{\\up3 ", "\\par\n", "\\b", "\\b0 ", "\\cf2 ", "\\ul", "\\plain ", "\\-",
+      "{\\*\\x y}", "{\\pict 0}", "\\rtlch ", "\\ltrch", "\r\n", "{\\footnote z}", "\\cell ",
+      "\\row ", "\\intbl ", "\\pard ", "{\\ulnone ", "7", "-"};
+  // clang-format on
   std::string file = "{\\rtf1\\ansi" + kTable;
   const unsigned pieces = random() % 40;
   for (unsigned i = 0; i < pieces; ++i) file += kPieces[random() % std::size(kPieces)];

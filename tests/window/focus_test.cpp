@@ -106,45 +106,29 @@ TEST_F(FocusTest, AHiddenControlLeavesTheFocusToNobody) {
 }
 
 TEST_F(FocusTest, TabFollowsThePanels) {
-  const auto expectRound = [&](const std::vector<std::string>& stops) {
+  const auto expectRound = [&](const char* names) {
+    const QStringList stops = QString::fromLatin1(names).split(QLatin1Char(' '));
     ClickAt(0);
-    for (const std::string& stop : stops) {
+    for (const QString& stop : stops) {
       Key(Qt::Key_Tab);
-      EXPECT_EQ(FocusName(), stop);
+      EXPECT_EQ(FocusName(), stop.toStdString());
     }
     Key(Qt::Key_Tab);
     EXPECT_EQ(FocusName(), "RichTextBox1") << "round";
     for (auto stop = stops.rbegin(); stop != stops.rend(); ++stop) {
       Key(Qt::Key_Backtab, Qt::ShiftModifier);
-      EXPECT_EQ(FocusName(), *stop) << "back";
+      EXPECT_EQ(FocusName(), stop->toStdString()) << "back";
     }
   };
   for (CommandButton* button : {&form.AMarkSet, &form.BMarkSet, &form.A_type_add, &form.B_type_add,
                                 &form.Add_to_spec_dict}) {
     button->Enabled = true;
   }
-  expectRound({"DefAMarker",
-               "AMarkReject",
-               "AMarkedString",
-               "AMarkSet",
-               "DefBMarker",
-               "BMarkReject",
-               "BMarkedString",
-               "BMarkSet",
-               "A_type_add",
-               "B_type_add",
-               "Add_to_spec_dict",
-               "Text2",
-               "add_to_dictionary",
-               "Add_global_parsing_list",
-               "Add_specific_parsing_list",
-               "Parse_cull",
-               "Deselect_Parse_Cull",
-               "Clear_list",
-               "Parse_listbox",
-               "Parse_1",
-               "Parse_2",
-               "Parse_3"});
+  expectRound(
+      "DefAMarker AMarkReject AMarkedString AMarkSet DefBMarker BMarkReject BMarkedString "
+      "BMarkSet A_type_add B_type_add Add_to_spec_dict Text2 add_to_dictionary "
+      "Add_global_parsing_list Add_specific_parsing_list Parse_cull Deselect_Parse_Cull "
+      "Clear_list Parse_listbox Parse_1 Parse_2 Parse_3");
   Choose("mnuPostProcess");
   Choose("mnuDialogue_off");
   Choose("mnuDialogue_on");
@@ -155,11 +139,11 @@ TEST_F(FocusTest, TabFollowsThePanels) {
     control->Enabled = true;
   }
   Choose("mnuUserID");
-  expectRound({"User_Dialogue", "FindAMarker",   "FindBMarker",  "Restart_PP", "marked_term",
-               "ClassCombo",    "OperatorCombo", "ModeCombo",    "TypeCombo",  "GranCombo",
-               "ValBox",        "RefTag",        "Generate_Tag", "ID",         "StartPosition",
-               "EndPosition",   "RefBox",        "RefTagStart",  "RefTagStop", "TagChecker",
-               "TaggedString",  "TagList",       "UserID1",      "SessionID",  "CloseIDFrame"});
+  expectRound(
+      "User_Dialogue FindAMarker FindBMarker Restart_PP marked_term ClassCombo OperatorCombo "
+      "ModeCombo TypeCombo GranCombo ValBox RefTag Generate_Tag ID StartPosition EndPosition "
+      "RefBox RefTagStart RefTagStop TagChecker TaggedString TagList UserID1 SessionID "
+      "CloseIDFrame");
 }
 
 TEST_F(FocusTest, TabStopsAtNothingThatIsCovered) {
