@@ -36,7 +36,7 @@ struct Judgement {
   Referred reference;
 };
 
-// Everything that one reader says: in the order of spans, each span once.
+// Everything that one reader says, in the order of spans, each span once.
 using Reading = std::vector<Judgement>;
 
 // Indices into two readings; each index occurs at most once.

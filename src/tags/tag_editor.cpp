@@ -46,6 +46,7 @@ void ApplyTagEditorRules(Form1& form) {
   form.ModeCombo.Enabled = form.OperatorCombo.Text != form.OperatorCombo.List(kPlaceholderRow);
   form.TypeCombo.Enabled = form.ModeCombo.Text != Placeholder::kMode;
   form.RefFrame.Visible = form.ModeCombo.Text == form.ModeCombo.List(ModeRow::kRelative);
+  // Without a type, this leaves RefTag and Generate_Tag as they are. That is intended.
   if (form.TypeCombo.Text == Placeholder::kType) {
     form.GranCombo.Enabled = false;
     form.ValBox.Enabled = false;

@@ -30,7 +30,7 @@ struct Range {
   bool operator==(const Range&) const = default;
 };
 
-// A typeface that the file names. Symbol fonts have characters of their own at U+F020 to U+F0FF.
+// A typeface that the file names. Symbol fonts have special characters at U+F020 to U+F0FF.
 struct FontFace {
   std::string name;  // UTF-8
   bool symbol = false;

@@ -29,7 +29,7 @@ inline constexpr Colour kNotFilledIn = RGB(255, 0, 255);
 // The background of a lemma without a kind; with a kind, it is FoundColour.
 inline constexpr Colour kNoLemmaKind = RGB(255, 255, 255);
 
-// How far above the baseline a tagged term stands.
+// How far a tagged term is raised above the baseline.
 inline constexpr Twips kRaised = 25;
 
 constexpr Colour MarkColour(OperatorKind kind) {

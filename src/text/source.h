@@ -1,8 +1,8 @@
 // What a file said besides its characters.
 //
 // A document keeps the bytes of its rich text. Every character knows the stretch of bytes that it
-// was read from; whatever lies between those stretches (formatting words, tables, notes, fields,
-// what nobody understands) is kept by never being touched: a save copies it.
+// was read from; whatever is between those stretches (formatting words, tables, notes, fields, what
+// the program does not understand) is kept by never being touched: a save copies it.
 #pragma once
 
 #include <cstdint>

@@ -69,7 +69,7 @@ class MainWindow final : public QMainWindow {
   void UserGoesInto(const QWidget& widget);
   bool IsMoveByTab(const QKeyEvent& key);
   bool MoveByTab(bool forward);
-  // Whether Tab stops there: the control is in reach and not behind another panel.
+  // Whether Tab stops there: whether the control is in reach and not behind another panel.
   bool IsTabStop(const Control& control) const;
   Control* ControlOf(const QWidget* widget) const;
 

@@ -55,7 +55,8 @@ class TextSurface : public Control {
   // rounded to the nearest whole number.
   void SelectSpan(double start, double end);
 
-  // Removes the underline from every character but the first, and puts the caret at 0.
+  // Removes the underline from every character but the first, which is intended, and puts the caret
+  // at 0.
   void ClearUnderlines();
 
   // Like selecting each range and writing its attributes, but leaves the selection alone. The

@@ -111,7 +111,7 @@ class Rows : public QAbstractListModel {
   }
 
   const ListBox& list_;
-  std::vector<int> weights_;  // of the rows on show
+  std::vector<int> weights_;  // of the rows shown
   QSize size_;
 };
 

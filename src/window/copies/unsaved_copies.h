@@ -63,7 +63,7 @@ class UnsavedCopies {
   QTimer timer_;
   QDeadlineTimer latest_;                // for the first change missing from the copy
   std::optional<std::uint64_t> copied_;  // the document's count of changes when copied
-  std::u32string path_;                  // of the text on show
+  std::u32string path_;                  // of the text shown
   std::optional<UnsavedCopy> opened_;    // the text itself, if it is a copy
   std::future<bool> writing_;
   // Belongs to the thread while that writes.
