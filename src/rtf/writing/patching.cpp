@@ -15,6 +15,8 @@
 #include "rtf/writing/encode.h"
 #include "rtf/writing/mark_trees.h"
 #include "rtf/writing/patched_copy.h"
+#include "rtf/writing/saved_groups.h"
+#include "rtf/writing/targets.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -27,29 +29,14 @@ class Patcher {
   std::string Write();
 
  private:
-  bool IsChanged(std::size_t character) const { return changed_[formatIds_[character]] != 0; }
-  bool IsLoose(std::size_t character) const {
-    return IsChanged(character) || origins_.IsTyped(character);
-  }
-  const Attributes& Target(std::size_t character) const { return targets_[formatIds_[character]]; }
-  bool HasChanged() const;
-  void NumberColours();
-  std::vector<Patch> Patches() const;
+  struct TreeWriter;
 
-  // A group of a tree.
-  struct GroupNote {
-    std::vector<FormatId> formats;  // of the characters in it
-    bool ours = true;               // a save made it
-  };
-  std::vector<GroupNote> NotesOf(const MarkTree& tree);
-  bool IsWanted(const GroupNote& note, const Attributes& inside) const;
-  // Whether the words of a group are those that a save would put between the two.
-  bool AreWords(const MarkGroup& group, const Attributes& outside, const Attributes& inside,
-                bool rightToLeft);
+  std::vector<Patch> Patches() const;
   bool IsRightToLeft(std::size_t character) const {
     return document_.Formats()[formatIds_[character]].look.rightToLeft;
   }
   void EmitTree(const MarkTree& tree);
+  void EmitLoose(std::size_t begin, std::size_t end);
   void Emit(std::size_t character, const Attributes& inForce);
   void EmitBytes(std::size_t character);
   void OpenWrap(std::size_t character, const Attributes& inForce);
@@ -66,11 +53,9 @@ class Patcher {
   const FormatNumbers& formatIds_;
   const OriginList& origins_;
   const MarkTrees trees_;
-  std::vector<Attributes> targets_;  // of each format, as the file is to have it
-  std::vector<char> changed_;        // whether that differs from what its place has
-  std::vector<MarkTree> touched_;    // groups with a changed character in them, in order
+  const Targets targets_;
+  SavedGroups groups_;
   ColourNumbers colours_;
-  ColourNumbers coloursRead_;  // without those that this save adds
   PatchedCopy out_;
 
   // The group that is being written around a stretch of characters.
@@ -89,61 +74,30 @@ Patcher::Patcher(const Document& document)
       formatIds_(document.FormatIds()),
       origins_(document.Origins()),
       trees_(document),
+      targets_(document),
+      groups_(document, trees_, targets_),
       colours_(source_.colours),
-      coloursRead_(source_.colours),
-      out_("", {}) {
-  const FormatTable& formats = document.Formats();
-  for (FormatId id = 0; id < formats.Size(); ++id) {
-    targets_.push_back(InFile(formats[id].now));
-    changed_.push_back(targets_.back() != formats[id].written ? 1 : 0);
-  }
-}
+      out_("", {}) {}
 
 std::string Patcher::Write() {
-  const bool nothing = document_.Cuts().empty() && !origins_.HasTyped() && !HasChanged();
+  const bool nothing = document_.Cuts().empty() && !origins_.HasTyped() && !targets_.IsAnyChanged();
   if (nothing) return source_.bytes;
 
-  touched_ = trees_.Holding([&](std::size_t character) { return IsChanged(character); });
-  NumberColours();
+  const std::vector<MarkTree> touched =
+      trees_.Holding([&](std::size_t character) { return targets_.IsChanged(character); });
+  // Every colour has its number before the table is copied.
+  targets_.NumberColours(touched, colours_);
   out_ = PatchedCopy(source_.bytes, Patches());
   std::size_t character = 0;
-  for (const MarkTree& tree : touched_) {
-    for (; character < tree.inside.begin; ++character) {
-      if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
-    }
+  for (const MarkTree& tree : touched) {
+    EmitLoose(character, tree.inside.begin);
     EmitTree(tree);
     character = tree.inside.end;
   }
-  for (; character < origins_.size(); ++character) {
-    if (IsLoose(character)) Emit(character, document_.Formats()[formatIds_[character]].written);
-  }
+  EmitLoose(character, origins_.size());
   CloseWrap();
   out_.CopyTo(static_cast<Offset>(source_.bytes.size()));
   return out_.Take();
-}
-
-bool Patcher::HasChanged() const {
-  if (std::find(changed_.begin(), changed_.end(), 1) == changed_.end()) return false;
-  const std::size_t size = formatIds_.size();
-  std::size_t at = 0;
-  while (at < size && !IsChanged(at)) at = formatIds_.EndOfStretch(at, size);
-  return at < size;
-}
-
-// Every colour that will be written gets its number before the table is copied.
-void Patcher::NumberColours() {
-  std::vector<bool> used(targets_.size());
-  const std::size_t size = formatIds_.size();
-  for (std::size_t at = 0; at < size; at = formatIds_.EndOfStretch(at, size)) {
-    used[formatIds_[at]] = IsChanged(at);
-  }
-  for (const MarkTree& tree : touched_) {
-    for (std::size_t i = tree.inside.begin; i < tree.inside.end; ++i) used[formatIds_[i]] = true;
-  }
-  for (FormatId id = 0; id < used.size(); ++id) {
-    const Attributes& written = document_.Formats()[id].written;
-    if (used[id] && targets_[id].colour != written.colour) colours_.NumberOf(targets_[id].colour);
-  }
 }
 
 std::vector<Patch> Patcher::Patches() const {
@@ -172,114 +126,70 @@ std::vector<Patch> Patcher::Patches() const {
   return patches;
 }
 
-std::vector<Patcher::GroupNote> Patcher::NotesOf(const MarkTree& tree) {
-  struct Collector {
-    Patcher& patcher;
-    const MarkTree& tree;
-    std::vector<GroupNote> notes;
-    std::vector<std::size_t> around;
-    void Open(std::size_t index) {
-      const MarkGroup& group = patcher.source_.groups[index];
-      notes[index - tree.first].ours =
-          patcher.AreWords(group, group.outside, Changed(group.outside, group.words),
-                           patcher.IsRightToLeft(tree.inside.begin));
-      around.push_back(index);
-    }
-    void Close(std::size_t index) {
-      around.pop_back();
-      if (around.empty()) return;
-      const GroupNote& note = notes[index - tree.first];
-      GroupNote& outer = notes[around.back() - tree.first];
-      // No save puts a group of ours around one of the author's.
-      outer.ours = outer.ours && note.ours;
-      for (const FormatId id : note.formats) Add(outer, id);
-    }
-    void Character(std::size_t character, std::size_t group) {
-      Add(notes[group - tree.first], patcher.formatIds_[character]);
-    }
-    static void Add(GroupNote& note, FormatId id) {
-      if (note.formats.empty() || note.formats.back() != id) note.formats.push_back(id);
-    }
-  };
-  Collector collector{*this, tree, std::vector<GroupNote>(tree.end - tree.first), {}};
-  trees_.Walk(tree, collector);
-  return std::move(collector.notes);
-}
+// Writes the groups of a tree anew. Where one goes, what stood in it is written against what is in
+// force outside.
+struct Patcher::TreeWriter {
+  Patcher& patcher;
+  const MarkTree& tree;
+  std::vector<GroupNote> notes;
+  bool rightToLeft;
+  std::vector<Attributes> inForce;
+  std::vector<bool> kept;
+  std::size_t next;  // the character that comes next
 
-// Whether a group serves its characters: one of them is to look as it says, or they part from it in
-// different ways, and may come back to it.
-bool Patcher::IsWanted(const GroupNote& note, const Attributes& inside) const {
-  const auto isInside = [&](FormatId id) { return targets_[id] == inside; };
-  const auto isOther = [&](FormatId id) { return targets_[id] != targets_[note.formats.front()]; };
-  return std::any_of(note.formats.begin(), note.formats.end(), isInside) ||
-         std::any_of(note.formats.begin(), note.formats.end(), isOther);
-}
+  void Open(std::size_t index) {
+    const MarkGroup& group = patcher.source_.groups[index];
+    const Attributes outside = inForce.back();
+    kept.push_back(patcher.groups_.IsKept(group, notes[index - tree.first], outside, rightToLeft));
+    inForce.push_back(kept.back() ? Changed(outside, group.words) : outside);
+    Pass(group.open, group.content);
+  }
+  void Character(std::size_t character, std::size_t) {
+    patcher.Emit(character, inForce.back());
+    next = character + 1;
+  }
+  void Close(std::size_t index) {
+    const Offset brace = patcher.source_.groups[index].close;
+    // Where the file breaks off, there is none.
+    Pass(brace, std::min(brace + 1, static_cast<Offset>(patcher.source_.bytes.size())));
+    kept.pop_back();
+    inForce.pop_back();
+  }
+  // The stretch from a brace on is copied only where its group is kept.
+  void Pass(Offset brace, Offset end) {
+    patcher.CloseWrap();
+    patcher.CopyInFront(next, brace);
+    if (kept.back()) {
+      patcher.out_.CopyTo(end);
+    } else {
+      patcher.out_.SkipTo(end);
+    }
+  }
+};
 
-bool Patcher::AreWords(const MarkGroup& group, const Attributes& outside, const Attributes& inside,
-                       bool rightToLeft) {
-  const std::string_view words =
-      std::string_view(source_.bytes).substr(group.open + 1, group.content - group.open - 1);
-  return words == WordsBetween(outside, inside, rightToLeft, coloursRead_);
-}
-
-// Writes the groups of a tree anew. A group of ours stays where its words are still those that are
-// needed and serve the characters in it; else its braces and words go, and what stood in
-// it is written against what is in force outside.
 void Patcher::EmitTree(const MarkTree& tree) {
-  struct Emitter {
-    Patcher& patcher;
-    const MarkTree& tree;
-    std::vector<GroupNote> notes;
-    bool rightToLeft;
-    std::vector<Attributes> inForce;
-    std::vector<bool> kept;
-    std::size_t next;  // the character that comes next
+  TreeWriter writer{*this,
+                    tree,
+                    groups_.NotesOf(tree),
+                    IsRightToLeft(tree.inside.begin),
+                    {source_.groups[tree.first].outside},
+                    {},
+                    tree.inside.begin};
+  trees_.Walk(tree, writer);
+}
 
-    void Open(std::size_t index) {
-      const MarkGroup& group = patcher.source_.groups[index];
-      const Attributes outside = inForce.back();
-      const Attributes inside = Changed(outside, group.words);
-      const GroupNote& note = notes[index - tree.first];
-      const bool keep = !note.ours || (patcher.IsWanted(note, inside) &&
-                                       patcher.AreWords(group, outside, inside, rightToLeft));
-      patcher.CloseWrap();
-      patcher.CopyInFront(next, group.open);
-      if (keep) {
-        patcher.out_.CopyTo(group.content);
-      } else {
-        patcher.out_.SkipTo(group.content);
-      }
-      kept.push_back(keep);
-      inForce.push_back(keep ? inside : outside);
-    }
-    void Character(std::size_t character, std::size_t) {
-      patcher.Emit(character, inForce.back());
-      next = character + 1;
-    }
-    void Close(std::size_t index) {
-      const Offset brace = patcher.source_.groups[index].close;
-      const auto size = static_cast<Offset>(patcher.source_.bytes.size());
-      const Offset behind = std::min<Offset>(brace + 1, size);
-      patcher.CloseWrap();
-      patcher.CopyInFront(next, brace);
-      if (kept.back()) {
-        patcher.out_.CopyTo(behind);
-      } else {
-        patcher.out_.SkipTo(behind);
-      }
-      kept.pop_back();
-      inForce.pop_back();
-    }
-  };
-  const Attributes outside = source_.groups[tree.first].outside;
-  Emitter emitter{*this,     tree, NotesOf(tree),    IsRightToLeft(tree.inside.begin),
-                  {outside}, {},   tree.inside.begin};
-  trees_.Walk(tree, emitter);
+// Writes the characters up to an index that stand in no tree, as far as they are not copied as they
+// are.
+void Patcher::EmitLoose(std::size_t begin, std::size_t end) {
+  for (std::size_t i = begin; i < end; ++i) {
+    if (!targets_.IsChanged(i) && !origins_.IsTyped(i)) continue;
+    Emit(i, document_.Formats()[formatIds_[i]].written);
+  }
 }
 
 void Patcher::Emit(std::size_t character, const Attributes& inForce) {
   const Origin& origin = origins_[character];
-  const Attributes& target = Target(character);
+  const Attributes& target = targets_.Of(character);
   const bool rightToLeft = IsRightToLeft(character);
   const bool goesOn = wrap_.open && wrap_.target == target && wrap_.inForce == inForce &&
                       wrap_.rightToLeft == rightToLeft && out_.OnlyLineEndsUpTo(origin.begin);
@@ -301,7 +211,7 @@ void Patcher::EmitBytes(std::size_t character) {
 }
 
 void Patcher::OpenWrap(std::size_t character, const Attributes& inForce) {
-  wrap_ = {true, inForce, Target(character), IsRightToLeft(character)};
+  wrap_ = {true, inForce, targets_.Of(character), IsRightToLeft(character)};
   out_.Append("{" + WordsBetween(inForce, wrap_.target, wrap_.rightToLeft, colours_));
 }
 
