@@ -1,4 +1,4 @@
-// What stands in the window at the start, word by word: a third of the catalogue.
+// The texts in the window at startup, word by word: a third of the catalogue.
 #include <gtest/gtest.h>
 
 #include "text/unicode.h"

@@ -1,4 +1,4 @@
-// How far readers agree, against figures worked out by hand and against slow, obvious versions.
+// How far readers agree, compared with figures worked out by hand and with slow, obvious versions.
 #include "companion/agreement.h"
 
 #include <gtest/gtest.h>
@@ -137,7 +137,7 @@ TEST(Agreement, AlphaEqualsTheSumOverAllPairs) {
   EXPECT_GT(defined, 1900);
 }
 
-// Takes the best pair that is left, again and again, from all pairs there are.
+// Repeatedly takes the best of all remaining pairs.
 Matches SlowMatches(const Reading& a, const Reading& b) {
   Matches matches;
   std::set<std::size_t> takenA, takenB;

@@ -39,7 +39,7 @@ void Write(const std::string& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
 
-// A letter in front of a term tells its colour: <aYesterday> blue, <bthen> red, <lnow> light blue.
+// The letter before a term is its colour: <aYesterday> blue, <bthen> red, <lnow> light blue.
 std::string Marked(std::string text) {
   for (const auto& [letter, colour] : {std::pair("<b", "2"), {"<a", "1"}, {"<l", "3"}}) {
     while (text.find(letter) != std::string::npos) {

@@ -1,4 +1,4 @@
-// The picture of tags, read back as what it is: a tree of XML with marks, titles and arcs.
+// The picture of tags, read back as an XML tree with marks, titles and arcs.
 #include "companion/picture.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ Picture Story() {
   return picture;
 }
 
-// Marks from front to back of the file: elements with a title, the drawing's own apart.
+// Marks in the order of the file: elements with a title, except the drawing itself.
 std::vector<pugi::xml_node> MarksIn(const pugi::xml_document& svg) {
   std::vector<pugi::xml_node> marks;
   for (const auto& found : svg.select_nodes("//g//*[title]")) marks.push_back(found.node());

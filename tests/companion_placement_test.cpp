@@ -1,4 +1,4 @@
-// The search for where tags belong, against trying every way to place them.
+// The search for where tags belong, compared with trying every way to place them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,13 +18,13 @@ using test::Dice;
 // For each element its place, or -1.
 using Way = std::vector<Position>;
 
-// Where an element can stand; a marked place counts for more than all others.
+// Where an element can be; a marked place counts for more than all others.
 struct Choice {
   Range place;
   bool marked = false;
 };
 
-// Collects the ways that place most elements, and tells what they agree about.
+// Collects the ways that place the most elements, and returns what they agree on.
 class BestWays {
  public:
   void Add(const Way& way, int weight) {
@@ -93,7 +93,7 @@ TEST(CompanionPlacement, PairsWhatAllLongestPairingsPair) {
   }
 }
 
-// Longer than a word of bits: an element stands in both sequences once, and all others shift.
+// Longer than a word of bits: one element occurs once in both sequences, and all others shift.
 TEST(CompanionPlacement, PairsLongSequences) {
   std::vector<std::uint32_t> left(1000);
   for (std::size_t i = 0; i < left.size(); ++i) left[i] = static_cast<std::uint32_t>(i);

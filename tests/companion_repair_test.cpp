@@ -1,4 +1,4 @@
-// Tags after their text was edited, as a user edits it, where the place of every tag is known.
+// Tags after a text was edited the way a user edits it, with the place of every tag known.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace {
 
 using test::Dice;
 
-// Words that are tagged are none of those that are not.
+// No word is both tagged and untagged.
 constexpr const char32_t* kPlain[] = {U"the ", U"ferry ",      U"left, ",   U"and ",
                                       U"a ",   U"\U0001F6A2 ", U"e\u0301\t"};
 constexpr const char32_t* kTagged[] = {U"THEN", U"NOW", U"NEXT DAY", U"THEN", U"A\U00010330"};
@@ -66,7 +66,7 @@ class EditedText : public test::Workbench {
     Follow(*place, 0);
   }
 
-  // Marks a term anew, with another word in the box.
+  // Marks a term again, with another word in the box.
   void CorrectTerm() {
     const std::optional<Range> place = PlaceOf(static_cast<std::size_t>(AnyTag()));
     if (!place) return;
@@ -79,7 +79,7 @@ class EditedText : public test::Workbench {
     Follow(*place, Length(term));
   }
 
-  // Takes the marks off a term.
+  // Removes the marks from a term.
   void Unmark() {
     const std::optional<Range> place = PlaceOf(static_cast<std::size_t>(AnyTag()));
     if (!place) return;
@@ -126,7 +126,7 @@ class EditedText : public test::Workbench {
         "\r\n";
   }
 
-  // The numbers of characters go with them: those of a term are the first ones of its place.
+  // Characters keep their numbers: those of a term are the first ones at its place.
   void Follow(Range range, Position typed) {
     const auto begin = numbers_.begin() + range.begin;
     const auto at = numbers_.erase(begin, begin + range.Length());
@@ -135,7 +135,7 @@ class EditedText : public test::Workbench {
     numbers_.insert(at, fresh.begin(), fresh.end());
   }
 
-  // Where all characters of a term still stand together.
+  // The place of a term, if all its characters are still together.
   std::optional<Range> PlaceOf(std::size_t i) const {
     const Range first = tags_[i].first;
     std::vector<int> term;

@@ -1,5 +1,5 @@
 // A disk that fails under the scenario player: every system call of a save, an append and a rewrite
-// is struck once, and after each the files are looked at. faults/fault_layer.cpp does the striking.
+// is struck once, and the files are checked after each. faults/fault_layer.cpp does the striking.
 #include <gtest/gtest.h>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -32,17 +32,17 @@ constexpr Fault kFaults[] = {{"once", ENOSPC}, {"once", EIO}, {"once", EINTR}, {
 
 struct Case {
   const char* name;
-  const char* before;  // steps in front of the calls to strike
+  const char* before;  // steps before the calls to strike
   const char* steps;
   const char* file;  // the file that they change
-  // The file that keeps the old content where the new one is in place; none where empty.
+  // The file that keeps the old content once the new one is in place; empty for none.
   const char* kept = "";
-  bool tells = false;  // whether a failure is told
+  bool tells = false;  // whether a failure is reported
 };
 
 constexpr const char* kText =
     "{\\rtf1\\ansi{\\colortbl;\\red255\\green0\\blue0;}One {\\cf1 two} three {\\cf1 four} five.}";
-// Without the last line's end, which an append puts in front.
+// Without the end of the last line, which an append adds first.
 constexpr const char* kTags =
     "t_op(1\\ 5\\ 7\\ two\\ S\\ U\\ lexematic\\ b_operator\\ absolute \\ at\\ d \\ 1\\ Reference "
     "Tag\\  \\   )\r\nno tag\r\nt_op(7\\ 15\\ 18\\ four\\ S\\ U\\ lexematic\\ b_operator\\ "
@@ -157,7 +157,7 @@ class StruckFolder {
   fs::path base_;
 };
 
-// What a case does where nothing is struck.
+// What a case does if nothing is struck.
 struct Undisturbed {
   std::optional<std::string> oldContent;
   std::optional<std::string> newContent;

@@ -37,7 +37,7 @@ class PosixDiskTest : public testing::Test {
     std::ifstream file(Path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  // The names in the folder, to see what was left lying.
+  // The names in the folder, to see what was left behind.
   std::string Names() const {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder)) names.insert(entry.path().filename());
@@ -167,7 +167,7 @@ TEST_F(PosixDiskTest, ClearsWhatACrashLeftAndLeavesWhatAnotherProgramWrites) {
   Put(".text.tbf.quill-saving", "half a te");
   disk.Replace(Path("text.tbf"), "whole");
   EXPECT_EQ(Names(), "text.tbf ");
-  // A link in its place is no way to another file, and no obstacle.
+  // A link in its place neither leads to another file nor is an obstacle.
   Put("victim", "untouched");
   for (const char* target : {"victim", "missing"}) {
     fs::create_symlink(target, folder / ".text.tbf.quill-saving");
@@ -216,7 +216,7 @@ TEST_F(PosixDiskTest, AppendsLinesWithTheirEnds) {
   for (const Row& row :
        {Row{"", "line\r\n"}, Row{"a\r\n", "a\r\nline\r\n"}, Row{"a\n", "a\nline\r\n"},
         Row{"a\r", "a\rline\r\n"}, Row{"a", "a\r\nline\r\n"},
-        // A byte order mark in front is no part of a line.
+        // A byte order mark at the start is not part of a line.
         Row{kMark, kMark + "line\r\n"}, Row{"", kMark + kMark + "line\r\n", kMark + "line"},
         Row{kMark, kMark + kMark + "line\r\n", kMark + "line"},
         Row{"a\n" + kMark, "a\n" + kMark + "\r\nline\r\n"}}) {
@@ -252,7 +252,7 @@ TEST_F(PosixDiskTest, CreatesOnlyWhatIsMissing) {
   EXPECT_TRUE(fs::is_regular_file(folder / "target"));
 }
 
-// Every failure is told with the path; nothing hangs and nothing is changed.
+// Every failure is reported with the path; nothing hangs and nothing is changed.
 TEST_F(PosixDiskTest, RefusesWhatIsNoFile) {
   fs::create_directory(folder / "dir");
   Put("file", "content");
@@ -283,7 +283,7 @@ TEST_F(PosixDiskTest, RefusesAWriteProtectedFileThoughItsFolderIsOpen) {
   }
   const std::string refusal = Refusal([&] { disk.Replace(Path("protected"), "x"); });
   const std::string appending = Refusal([&] { disk.AppendLine(Path("protected"), "x"); });
-  // It is there: nothing has to be made.
+  // It exists: nothing has to be created.
   const std::string making = Refusal([&] { disk.CreateIfMissing(Path("protected")); });
   if (former == 0) {
     ASSERT_EQ(seteuid(former), 0);

@@ -1,4 +1,4 @@
-// Opening, saving and leaving where something fails. What happens otherwise is told by scenarios.
+// Opening, saving and leaving when something fails. Scenarios cover the rest.
 #include <gtest/gtest.h>
 
 #include "disk/text_lines.h"
@@ -226,7 +226,7 @@ TEST_F(Files, ExitSavesAndEndsTheProgram) {
 }
 
 TEST_F(Files, ExitEndsTheProgramAlsoWhereNothingCouldBeSaved) {
-  Open({u32string(U"none.rtf")});  // fails, and yet its name is the one proposed
+  Open({u32string(U"none.rtf")});  // fails, and yet its name is then proposed
   disk.Refuse(DiskCall::kCreateIfMissing, "none.tlf");
   disk.Refuse(DiskCall::kReplace, "none.tbf");
   dialogs.answers = {Proposed()};

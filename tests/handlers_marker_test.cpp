@@ -1,4 +1,4 @@
-// Marking by hand, where its steps meet characters that keystrokes could change.
+// Marking by hand, with characters that keystrokes could change.
 #include <gtest/gtest.h>
 
 #include "support/workbench.h"

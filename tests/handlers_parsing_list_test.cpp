@@ -52,7 +52,7 @@ TEST_F(ParsingList, ADictionaryThatCannotBeReadIsTold) {
   program.Click(form.Add_global_parsing_list);
   EXPECT_EQ(Items(), U"a;b;");
   EXPECT_EQ(form.Parse_listbox.ListIndex, -1);
-  // The deselection was an event: the searches would find nothing.
+  // Deselecting raised an event: the searches would find nothing.
   EXPECT_EQ(form.WorkState.ParseIndex.Get(), -1);
   EXPECT_EQ(form.User_Dialogue.Text,
             U"There is no global dictionary yet: it is made when the "
@@ -74,7 +74,7 @@ TEST_F(ParsingList, ReadingInOneGoIsAddingOneByOne) {
   std::vector<std::u32string> lines;
   for (int i = 0; i < 400; ++i) {
     std::u32string line;
-    // Few letters, and two that collate as equal as one may: an order of adding shows.
+    // Few letters, two of which collate as equal, so that the order of adding shows.
     for (unsigned length = random() % 4; length > 0; --length)
       line += U"aAä\u0000\u200Db"[random() % 6];
     lines.push_back(line);
@@ -98,7 +98,7 @@ TEST_F(ParsingList, AFullListTakesNoMore) {
   Read(bytes);
   Read("c\\\na\\\n");
   ASSERT_EQ(form.Parse_listbox.ListCount(), ListBox::kMostItems);
-  // One after the other: the first found room.
+  // One after another: there was room for the first.
   EXPECT_EQ(form.Parse_listbox.Items().back(), U"c\\");
   EXPECT_EQ(form.Parse_listbox.Items().front(), U"b\\");
 
@@ -108,7 +108,7 @@ TEST_F(ParsingList, AFullListTakesNoMore) {
   program.Click(form.Add_to_spec_dict);
   EXPECT_NE(disk.files["road.spd"].find("\nd\\"), std::string::npos);
   EXPECT_FALSE(form.Frame1.Enabled);
-  // Nor do the removed ones come back: they are given up.
+  // Nor do the removed ones come back: they are forgotten.
   form.TempList.AddItem(U"a\\");
   form.Undo_Parse_Cull.Enabled = true;
   program.Click(form.Undo_Parse_Cull);

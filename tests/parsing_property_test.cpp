@@ -1,4 +1,4 @@
-// The searches against the plain loop that they stand for, on random texts and lists.
+// The searches, compared with the plain loop that they replace, on random texts and lists.
 #include <gtest/gtest.h>
 #include <unicode/uchar.h>
 
@@ -190,7 +190,7 @@ void ExpectSame(const Form1& fast, const Form1& plain) {
   EXPECT_EQ(Fields(fast.WorkState), Fields(plain.WorkState));
 }
 
-// The watcher heard of every character that looks different.
+// The watcher was told of every character that looks different.
 void ExpectToldOf(const Changes& changes, const Document& before, const Document& after) {
   for (Position at = 0; at < before.Length(); ++at) {
     if (before.At(at) == after.At(at)) continue;

@@ -1,4 +1,4 @@
-// Random users: whatever they do, what must always hold holds.
+// Random users: the invariants hold whatever they do.
 //
 // QUILL_WALK_ACTIONS is the number of actions (20000), QUILL_WALK_SEED the first seed (1). A walk
 // that fails leaves a folder with its texts and its scenario, for the player. In walks with an odd
@@ -48,7 +48,7 @@ struct Seen {
   int saves = 0;
 };
 
-// What a look at the program finds, before an action and after it.
+// The state of the program, before an action and after it.
 struct Look {
   Files files;
   std::vector<std::u32string> tags;
@@ -171,7 +171,7 @@ class Walk {
 
   std::string TagFile() const { return ToUtf8(form_.WorkState.TagListFile.Get()); }
 
-  // The tags without the selected one, which the user gives up.
+  // The tags without the selected one, which the user takes out.
   std::vector<std::u32string> GiveUp(const Look& before, const std::string& file) {
     std::vector<std::u32string> rest = before.tags;
     if (before.selected == -1) return rest;
@@ -229,13 +229,13 @@ class Walk {
     return !left.empty();
   }
 
-  // Input files stay, dictionaries grow, and a saved text reads back as what is on show.
+  // Input files stay, dictionaries grow, and a saved text reads back as the text in the window.
   void ExpectOtherFilesWhole(const Files& before, Seen& seen) {
     formerTagFile_ = TagFile();
     for (const auto& [name, bytes] : disk_.files) {
       const auto was = before.find(name);
       const std::string old = was == before.end() ? "" : was->second;
-      // The disk in memory takes a file without a name: the dictionary before any text.
+      // The disk in memory accepts a file without a name: the dictionary before any text.
       if (bytes == old || name.empty() || name.find(".tlf") != std::string::npos) continue;
       if (name.ends_with(".spd") || name.ends_with(".gdf")) {
         EXPECT_TRUE(bytes.starts_with(old)) << name;
@@ -288,7 +288,7 @@ TEST(RandomUsers, NeverLeaveTheRails) {
   std::cout << seen.loads << " loads, " << seen.saves << " saves, " << seen.tags << " tags, "
             << seen.edits << " edits, " << seen.rewrites << " rewrites, " << seen.copies
             << " copies\n";
-  // A walk that never gets to the tags would say nothing of them.
+  // A walk that never gets to the tags would prove nothing about them.
   EXPECT_TRUE(seen.saves > 0 && seen.edits > 0 && seen.rewrites > 0 && seen.copies > 0);
 }
 

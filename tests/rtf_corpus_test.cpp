@@ -1,5 +1,5 @@
-// Properties that every rich text file must have, over small files of the project's own and, where
-// they are at hand, over real files of many producers.
+// Properties that every rich text file must have, tested on the project's small files and, if
+// available, on real files of many producers.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +21,7 @@ std::vector<std::filesystem::path> RealFiles() {
   std::vector<std::filesystem::path> files;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(QUILL_SHARED_RTF, error)) {
-    // One of them is no text: bytes of all kinds, NULs among them.
+    // One of them is not text: bytes of all kinds, including NULs.
     const bool isText =
         entry.path().filename().string().find("destinationtest-2") == std::string::npos;
     if (entry.path().extension() == ".rtf" && isText) files.push_back(entry.path());
@@ -37,7 +37,7 @@ class RealFile : public testing::Test {
   }
 };
 
-// Random stretches of a text, of a few characters each.
+// Random stretches of a text, a few characters each.
 std::vector<Range> SomeStretches(const Document& document, unsigned seed) {
   std::mt19937 random(seed);
   std::vector<Range> stretches;
@@ -80,8 +80,7 @@ TEST_F(RealFile, KeepsTextAndAttributesOfAMarkedSave) {
   }
 }
 
-// Every word, with all four attributes other than they were; what is left is all that the file
-// said.
+// Changes all four attributes of every word; the rest of the file must stay.
 TEST_F(RealFile, ComesBackFromMarkedSavesButForItsColours) {
   for (const auto& path : RealFiles()) {
     SCOPED_TRACE(path.filename().string());

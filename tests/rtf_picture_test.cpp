@@ -1,4 +1,4 @@
-// The size and the data of pictures, as word processors write them and as nobody should.
+// The size and data of pictures, both as word processors write them and malformed.
 #include "rtf/picture.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What of a file is a character of the text, and with which attributes.
+// Which parts of a file are characters of the text, and with which attributes.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -69,7 +69,7 @@ TEST(RtfReader, TellsCharactersFromWhatIsNone) {
   });
 }
 
-// Fields that name one character; what a result holds comes first.
+// Fields that name one character; the characters of a result take precedence.
 TEST(RtfReader, ShowsTheCharacterOfASymbolField) {
   const auto field = [](const std::string& instruction, const std::string& result) {
     return "a{\\field\\flddirty{\\*\\fldinst " + instruction + "}" + result + "}b";

@@ -1,4 +1,4 @@
-// Plays the scenarios beside this file, and the player's own rules: what it refuses, and how.
+// Plays the scenarios beside this file, and tests the player's rules: what it refuses, and how.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
@@ -36,7 +36,7 @@ std::vector<Json> Lines(const std::string& jsonLines) {
   return lines;
 }
 
-// Members beyond those that are wanted may be there.
+// There may be members other than those wanted.
 void ExpectMembers(const Json& wanted, const Json& found, const std::string& where) {
   if (!wanted.is_object() || !found.is_object()) {
     EXPECT_EQ(wanted, found) << where;
@@ -159,7 +159,7 @@ TEST(ScriptedDialogs, MessageBoxesTakeTheAnswersThatTheyHaveButtonsFor) {
     Icon icon;
     Buttons buttons;
     AnswerStep::Kind answer;
-    std::optional<Button> pressed;  // nothing where the answer does not fit
+    std::optional<Button> pressed;  // nothing if the answer does not fit
     int printedButtons = 0;
     int printedResult = 0;
   };
@@ -255,7 +255,7 @@ TEST(Play, EndsWithTheOutcomeAsItsStatus) {
   }
 }
 
-// In Swedish the letter stands behind all others.
+// In Swedish the letter comes after all others.
 TEST(Play, SortsAsTheUsersLocaleDoes) {
   const ScenarioFolder place(OwnScenarios());
   const std::string start =

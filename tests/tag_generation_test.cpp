@@ -1,4 +1,4 @@
-// Generating a tag where its file fails, or its list.
+// Generating a tag when its file or its list fails.
 #include <gtest/gtest.h>
 
 #include "support/workbench.h"

@@ -22,7 +22,7 @@ struct TagListRewriting : testing::Test, Workbench {
     form.TagList.ListIndex = item;
     TakeSelectedTag(form);
   }
-  // As another program would.
+  // Writes as another program would.
   void Write(const std::string& line) { disk.files["x.tlf"] += line; }
   bool Kept() const { return disk.Has("x.tlf~"); }
 };

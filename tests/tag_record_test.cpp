@@ -1,4 +1,4 @@
-// The tag line: composed, cut open, and cut where it is not sound.
+// The tag line: composed, cut into fields, and cut when damaged.
 #include "tags/tag_record.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The arrays of the text, which pack their items, against plain vectors under random edits.
+// The arrays of the text, which pack their items, compared with plain vectors under random edits.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -37,7 +37,7 @@ void PutInPlace(std::vector<T>& plain, Stretch at, const std::vector<T>& items) 
   plain.insert(plain.begin() + std::ptrdiff_t(at.first), items.begin(), items.end());
 }
 
-// Numbers beyond 16 bits come early, late, never, or into what is empty.
+// Numbers beyond 16 bits come early, late, never, or into an empty array.
 TEST(FormatNumbers, AgreeWithAPlainVector) {
   constexpr FormatId kNumbers[] = {0, 1, 0xFFFF, 0x10000, 0x1FFFF, 0x20001};
   for (unsigned seed = 0; seed < 40; ++seed) {

@@ -117,7 +117,7 @@ TEST_F(Surface, KeepsTheEndsOfCellsAndRows) {
   }
 }
 
-// The document under random edits, against a vector of characters with their attributes.
+// The document under random edits, compared with a vector of characters with their attributes.
 TEST(Document, AgreesWithAPlainVector) {
   std::mt19937 random(21);
   for (int round = 0; round < 60; ++round) {

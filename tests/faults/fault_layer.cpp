@@ -1,5 +1,5 @@
-// A layer between a program and the C library, put there with LD_PRELOAD, that strikes one system
-// call of the program: the call fails, writes half of its bytes, or is the program's last.
+// A layer between a program and the C library, loaded with LD_PRELOAD, that strikes one system call
+// of the program: the call fails, writes half of its bytes, or is the program's last.
 //
 // Calls on files of one folder count, from 1 on. The environment says what happens:
 //
@@ -107,7 +107,7 @@ int open(const char* path, int flags, ...) {
   return file;
 }
 
-// The descriptor is gone also where the call fails.
+// The descriptor is closed even if the call fails.
 int close(int file) {
   const bool fails = TheLayer().IsOurs(file) && TheLayer().Fails("close");
   TheLayer().Mark(file, false);

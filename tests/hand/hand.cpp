@@ -1,6 +1,6 @@
-// A hand on the real program: an input device of the toolkit's that marks the first word of the
-// text that the program was started with. Then it says so and, as QUILL_HAND tells, closes the
-// window ("close") or has the toolkit end the process ("exit").
+// A hand on the real program: a plugin for the toolkit that marks the first word of the text that
+// the program was started with, says so and, depending on QUILL_HAND, closes the window ("close")
+// or has the toolkit end the process ("exit").
 #include <QApplication>
 #include <QGenericPlugin>
 #include <QTimer>
@@ -33,7 +33,7 @@ void Mark(QMainWindow& window) {
   if (next == "exit") std::exit(0);
 }
 
-// Until the text is there.
+// Until the text is loaded.
 class Hand : public QObject {
  public:
   Hand() {

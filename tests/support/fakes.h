@@ -1,5 +1,5 @@
 // Stand-ins for the machine and its user: a disk in memory that fails on demand, and dialogs with
-// answers given beforehand.
+// prepared answers.
 #pragma once
 
 #include <deque>
@@ -71,7 +71,7 @@ class MemoryDisk final : public Disk {
   std::set<std::pair<DiskCall, std::string>> refused_;
 };
 
-// A dialog that was shown, with all that it was given.
+// A dialog that was shown, with everything that it was given.
 struct Shown {
   std::string dialog;  // "ShowOpen", "ShowSave" or "MsgBox"
   std::u32string title;
@@ -89,7 +89,7 @@ class ScriptedDialogs final : public Dialogs {
 
   std::deque<Answer> answers;
   std::vector<Shown> shown;
-  // Where it is set, it answers the message boxes.
+  // If set, answers the message boxes.
   std::function<Button(const MessageBox& box)> ask;
 
   std::optional<std::u32string> ShowOpen(const std::u32string& title,

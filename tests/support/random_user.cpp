@@ -24,7 +24,7 @@ std::string Quoted(std::u32string_view text) {
   return quoted + '"';
 }
 
-// How often, in percent, an action on the control is let pass once it was drawn.
+// How often, in percent, an action on the control is accepted once it is drawn.
 int ChanceOf(const Control& control) {
   const std::string_view name = control.Name();
   const auto* const item = dynamic_cast<const MenuItem*>(&control);
@@ -82,7 +82,7 @@ Button RandomDialogs::MsgBox(const MessageBox& box) {
 
 Control& RandomUser::ChooseControl() {
   Form1& form = program_.Form();
-  // What is seldom in reach is taken when it is.
+  // Controls that are seldom in reach are taken when they are.
   Control* const seldom[] = {&form.Generate_Tag, &form.RemoveItem, &form.RefTag,
                              &form.Add_to_spec_dict, &form.Add_to_global_dict};
   for (Control* control : seldom) {
@@ -112,7 +112,7 @@ std::u32string RandomUser::SomeText() {
   if (dice_.Percent(70) || text.empty()) return std::u32string(dice_.OneOf(kTexts));
   const auto at = static_cast<std::size_t>(dice_.Below(static_cast<int>(text.size())));
   std::u32string piece = text.substr(at, static_cast<std::size_t>(dice_.Below(6)));
-  // A scenario holds no lines but its own.
+  // The texts of a scenario hold neither of these.
   std::erase_if(piece, [](char32_t c) { return c == U'\r' || c == U'\0'; });
   return piece;
 }

@@ -1,5 +1,5 @@
 // A user of the program who acts at random, by a seed: clicks, picks, types, selects, answers
-// dialogs. What he does is written down as a scenario that the player can play.
+// dialogs. The actions are written down as a scenario that the player can play.
 #pragma once
 
 #include <cstdint>
@@ -14,11 +14,11 @@
 
 namespace quill::test {
 
-// Numbers by a seed, the same on every machine.
+// Numbers from a seed, the same on every machine.
 class Dice {
  public:
   explicit Dice(std::uint32_t seed) : engine_(seed) {}
-  // From 0 to below the bound, which is at least 1.
+  // From 0 up to but not including the bound, which must be at least 1.
   int Below(int bound) { return static_cast<int>(engine_() % static_cast<std::uint32_t>(bound)); }
   bool Percent(int chance) { return Below(100) < chance; }
   template <class Items>
@@ -74,7 +74,7 @@ class RandomUser {
   };
   // Mostly one that is in reach.
   Action Choose();
-  // Answers stand in front of the step in the scenario; a note tells what broke off.
+  // In the scenario, answers precede the step; a note says what broke off.
   void Do(const Action& action);
 
  private:

@@ -7,9 +7,9 @@
 
 namespace quill::test {
 
-// A fresh folder that is the current one while this lives: scenarios name their files from there.
-// It holds copies of the texts of a folder of scenarios, and an empty folder `folder.tbf`, which no
-// text can be saved to.
+// A fresh folder that is the current one while this lives: the files of scenarios are relative to
+// it. It holds copies of the texts of a folder of scenarios, and an empty folder `folder.tbf`, to
+// which no text can be saved.
 class ScenarioFolder {
  public:
   explicit ScenarioFolder(const std::filesystem::path& texts);
@@ -22,9 +22,10 @@ class ScenarioFolder {
   std::filesystem::path folder_;
 };
 
-// The folder of this project's own scenarios.
+// The folder of this project's scenarios.
 std::filesystem::path OwnScenarios();
-// The names, without extension, of the scenarios in a folder, sorted. Empty where it is missing.
+// The names, without extension, of the scenarios in a folder, sorted. Empty if the folder is
+// missing.
 std::vector<std::string> ScenariosIn(const std::filesystem::path& folder);
 
 std::string Contents(const std::filesystem::path& path);

@@ -1,6 +1,6 @@
 // The program with fakes around it, and texts drawn as strings.
 //
-// A drawing has a letter a character: '.' black, 'a' and 'b' in the colour of the two kinds of
+// A drawing has one letter per character: '.' black, 'a' and 'b' in the colour of the two kinds of
 // mark, 'l' in the light blue of an automatic mark; the same letter as a capital, and '_' for
 // black, is underlined.
 #pragma once
@@ -14,13 +14,13 @@
 
 namespace quill::test {
 
-// A text without a file behind it: good for all but saving.
+// A text without a file behind it: usable for everything but saving.
 Document Painted(std::u32string_view text, std::string_view drawing);
 
 // The colours and underlines of the text.
 std::string Drawing(const TextSurface& surface);
 
-// The fields of the record, a line each.
+// The fields of the record, one per line.
 std::string Fields(const WorkState& state);
 
 struct Workbench {
@@ -30,9 +30,9 @@ struct Workbench {
   Form1& form = program.Form();
   TextSurface& text = form.RichTextBox1;
 
-  // Puts a text in place with its mode's frame shown, as after an opening.
+  // Sets the text and shows the frame of its mode, as after opening a text.
   void ShowText(std::u32string_view characters, std::string_view drawing);
-  // Opens a file with these answers of the user.
+  // Opens a file, with these answers from the user.
   void Open(std::initializer_list<ScriptedDialogs::Answer> answers);
 };
 

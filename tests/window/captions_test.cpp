@@ -1,4 +1,4 @@
-// Captions and edges: each shows whole at every scale.
+// Captions and edges: each shows completely at every scale.
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
@@ -77,7 +77,7 @@ std::array<Side, 4> SidesOf(const QRectF& place) {
            {"bottom", {last.x(), place.bottom() - 1}, {0, 1}}}};
 }
 
-// Whether the edge is painted within a point of the screen of where it belongs.
+// Whether the edge is painted where it belongs, give or take a point of the screen.
 bool IsPainted(const QImage& image, const Side& side, QRgb colour) {
   const double scale = image.devicePixelRatio();
   for (double away = -1; away <= 2; ++away) {

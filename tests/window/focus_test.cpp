@@ -1,4 +1,4 @@
-// Focus: a user's move raises GotFocus, nothing else does.
+// Focus: only a user's move raises GotFocus.
 #include <QApplication>
 #include <QLineEdit>
 #include <QtTest>

@@ -102,7 +102,7 @@ void LineHands::Do(const std::string& line) {
     throw std::logic_error("no such line: " + line);
   }
   QApplication::processEvents();
-  // A dialog that closed leaves no window active on a screen without a window manager.
+  // Without a window manager, no window is active after a dialog has closed.
   if (QApplication::activeWindow() == nullptr) window_.activateWindow();
   QApplication::processEvents();
 }
@@ -124,7 +124,7 @@ LineHands::Target LineHands::At(const QStringList& words, qsizetype control) con
   const QPoint place(words[control + 1].toInt(), words[control + 2].toInt());
   const QPoint inWindow = widget.mapTo(&window_, place);
   QWidget* const there = window_.childAt(inWindow);
-  // The menu of the bar's own button, in a narrow window, lets nobody go on before it is closed.
+  // The menu of the bar's own button, in a narrow window, blocks until it is closed.
   if (there == nullptr || qobject_cast<QToolButton*>(there) != nullptr) return {};
   return {there, there->mapFrom(&window_, inWindow)};
 }
@@ -154,7 +154,7 @@ void LineHands::Mouse(const QStringList& words) {
 }
 
 void LineHands::OpenContextMenu(const Target& target) {
-  // The menu of a scroll bar lets nobody go on before it is closed.
+  // The menu of a scroll bar blocks until it is closed.
   if (target.widget == nullptr || qobject_cast<QScrollBar*>(target.widget) != nullptr) return;
   QTest::mouseClick(target.widget, Qt::RightButton, {}, target.point);
   QContextMenuEvent event(QContextMenuEvent::Mouse, target.point,
@@ -235,7 +235,7 @@ void LineHands::UsePopup(const QStringList& words) {
     }
   } else if (auto* const rows = popup->findChild<QAbstractItemView*>()) {
     const QModelIndex row = rows->model()->index(words[2].toInt(), 0);
-    // A list that dropped down takes a click for a pick only some time after it opened.
+    // A list that has dropped down takes a click as a pick only some time after it opened.
     QTest::qWait(QApplication::doubleClickInterval() + 1);
     QTest::mouseMove(rows->viewport(), rows->visualRect(row).center());
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualRect(row).center());

@@ -1,7 +1,7 @@
-// A user's hands that do what a line says, so that what was done can be done again.
+// A user's hands that do what a line says, so that actions can be repeated.
 //
-// A line is a verb and its words, parted by blanks; texts are percent-encoded UTF-8. A place is the
-// name of a control and a point in its widget: what happens there happens to whatever lies on top.
+// A line is a verb and its words, separated by blanks; texts are percent-encoded UTF-8. A place is
+// the name of a control and a point in its widget; the action applies to whatever is on top there.
 //
 //     click|double|triple BUTTON MODIFIERS PLACE
 //     drag BUTTON MODIFIERS PLACE X Y             from the place to another point
@@ -31,8 +31,8 @@ class LineHands : private Hands {
 
   void Do(const std::string& line);
 
-  // The widget that lies on top at the place that the line names, and the point in it; no widget
-  // where the line names none or the place is out of sight.
+  // The topmost widget at the place that the line names, and the point in it; no widget if the line
+  // names none or the place is out of sight.
   struct Target {
     QWidget* widget = nullptr;
     QPoint point;

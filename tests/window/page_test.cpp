@@ -54,7 +54,8 @@ TEST(HeightsTest, AreThoseOfAPlainList) {
 
 class PageTest : public WindowTest {
  protected:
-  // Until all is painted. The end of an earlier test's window may take the focus from this one.
+  // Waits until everything is painted. The end of an earlier test's window may take the focus from
+  // this one.
   void Rest() {
     QApplication::processEvents();
     window.activateWindow();

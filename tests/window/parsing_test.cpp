@@ -49,7 +49,8 @@ class ParsingTest : public WindowTest {
     return View().cursorRect(begin).united(View().cursorRect());
   }
 
-  // The selected term is seen whole, in its own colour, and neither a panel nor the box is over it.
+  // The whole selected term is visible, in its colour, and covered neither by a panel nor by the
+  // box.
   void ExpectTermInSight(const QMessageBox& box) {
     const QRect place = SelectedPlace();
     QWidget& viewport = *View().viewport();
@@ -137,7 +138,7 @@ TEST_F(ParsingTest, TheReaderKeepsThePlaceThatTheSearchLeavesAlone) {
   bar.setValue(bar.maximum() / 2);
   const auto atTop = [&] { return View().cursorForPosition({0, 0}).position(); };
   const int top = atTop();
-  constexpr int kLine = 100;  // more characters than the first line can lose by wrapping anew
+  constexpr int kLine = 100;  // more characters than the first line can lose by rewrapping
   // The marks above are bold and take more lines than before.
   Press("Parse_1");
   EXPECT_EQ(At(0).bold, true);

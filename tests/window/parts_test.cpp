@@ -1,4 +1,4 @@
-// The parts that need no window, each against a plain way to do the same.
+// The parts that need no window, each compared with a plain way to do the same.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -55,7 +55,7 @@ TEST(PositionMap, FollowsEdits) {
   }
 }
 
-// What was shown, brought up by the changes, must be the text with its formats.
+// What was shown, after applying the changes, must be the text with its formats.
 TEST(TextChanges, LeadFromWhatWasShownToTheText) {
   for (int round = 0; round < 300; ++round) {
     RandomText source;

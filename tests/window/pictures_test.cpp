@@ -1,4 +1,4 @@
-// Pictures in the text, told by what is painted.
+// Pictures in the text, checked by what is painted.
 #include <QBuffer>
 #include <QTextBlock>
 #include <QTextLayout>

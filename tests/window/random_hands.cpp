@@ -11,7 +11,7 @@
 namespace quill::test {
 namespace {
 
-// Parted by blanks.
+// Separated by blanks.
 constexpr const char* kKeys =
     "Left Right Up Down Home End PgUp PgDown Ctrl+Left Ctrl+Right Ctrl+Up Ctrl+Down Ctrl+Home "
     "Ctrl+End Shift+Left Shift+Right Shift+Up Shift+Down Shift+End Shift+PgDown Ctrl+Shift+Left "
@@ -21,8 +21,8 @@ constexpr const char* kKeys =
     "Alt+I Alt+Down Alt+Left Menu Ctrl++ Ctrl+- Ctrl+0 Meta+A A T Ctrl+B Ctrl+D Ctrl+H Ctrl+K "
     "Ctrl+U Ctrl+W";
 constexpr const char* kPopupKeys = "Down Up Down Return Return Esc Home End A Right Tab Space";
-// Percent-encoded: letters of one to four bytes, what the toolkit takes for the ends of paragraphs,
-// what stands for a picture, and nothing.
+// Percent-encoded: letters of one to four bytes, what the toolkit takes as paragraph ends, the
+// character for a picture, and nothing.
 constexpr const char* kTexts =
     "a then 12 %20 %C3%A9 %E6%97%A5%E6%9C%AC %F0%9F%98%80 e%CC%81 %5C %7C%3C -3 %D7%90%D7%96 "
     "x%0Ay x%0D%0Ay %09 %EF%BB%BF %C2%A0 %E2%80%A8 %E2%80%A9 %EF%BF%BC %EF%B7%90 24 ";
@@ -61,7 +61,7 @@ const QWidget& RandomHands::WidgetFor(const Control& control) const {
   return WidgetOf(window_, control);
 }
 
-// Mostly one in reach, and often a list: most of what can be done to it is to change nothing.
+// Mostly one in reach, and often a list: most actions on a list must change nothing.
 const Control& RandomHands::SomeControl() {
   const ListBox* const lists[] = {&form_.TagList, &form_.Parse_listbox};
   if (const ListBox* const list = dice_.OneOf(lists); list->IsInReach() && dice_.Percent(15)) {

@@ -1,5 +1,5 @@
-// Draws what a user might do next on the window, as lines for hands: mostly what gets on with the
-// work, and everything else that can be done with mouse, keyboard and clipboard.
+// Chooses at random what a user might do next on the window, as lines for hands: mostly what
+// advances the work, but also everything else that can be done with mouse, keyboard and clipboard.
 #pragma once
 
 #include <QMainWindow>

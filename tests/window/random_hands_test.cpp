@@ -1,9 +1,9 @@
 // A random user on the real window, with real dialogs and files: after every action the widgets
-// show what the model holds, and what must always hold holds.
+// show what the model holds, and the invariants hold.
 //
-// QUILL_WALK_ACTIONS is the number of actions (3000), QUILL_WALK_SEED the first seed (1). What is
-// done is written down line by line. A walk that fails, also by ending the process, leaves its
-// record, and QUILL_WALK_RECORD names a record to play again.
+// QUILL_WALK_ACTIONS is the number of actions (3000), QUILL_WALK_SEED the first seed (1). Actions
+// are recorded line by line. A walk that fails, even by ending the process, leaves its record, and
+// QUILL_WALK_RECORD names a record to replay.
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
@@ -42,7 +42,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the toolkit warns of is a fault of the window; the offscreen platform's own are none.
+// Warnings of the toolkit are faults of the window, except those of the offscreen platform.
 std::string warnings;
 void Collect(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
   if (!message.startsWith(QLatin1String("This plugin"))) warnings += message.toStdString() + '\n';
@@ -57,7 +57,7 @@ Files FilesIn(const fs::path& folder) {
   return files;
 }
 
-// A box and what it is to hold after a key that types a letter.
+// A box and what it must hold after a key that types a letter.
 struct Typed {
   const Control* box = nullptr;
   QString text;
@@ -159,7 +159,7 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
       }
     }
   }
-  // Keys get to the menu of the bar's own button, too, which waits in a loop of its own.
+  // Keys also reach the menu of the bar's own button, which waits in its own event loop.
   static void LeaveWaitingPopup() {
     QWidget* const popup = QApplication::activePopupWidget();
     const bool waits = QThread::currentThread()->loopLevel() > 0 && DialogHands::Open() == nullptr;
@@ -182,7 +182,7 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
     }
     if (dialog.isVisible()) dialog.reject();
   }
-  // What the text on show came from, if that is to stay as it is.
+  // The file that the text came from, if it must stay as it is.
   void NoteSource() {
     const fs::path source(ToUtf8(form.RichTextBox1.SourcePath()));
     source_ = source.extension() == ".rtf" ? source.filename().string() : "";
@@ -216,8 +216,8 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
     return std::nullopt;
   }
 
-  // Where a list must stand after an action of the mouse: at the row that was clicked or, for
-  // whatever else may happen to a list, where it stood.
+  // The row of each list after a mouse action: the clicked row or, after anything else, the same as
+  // before.
   std::map<const ListBox*, int> RowsAfter(const std::string& line) const {
     const LineHands::Target target = hands_.TargetOf(line);
     const auto* const list = dynamic_cast<const ListBox*>(ControlOf(form, target.widget));
@@ -230,14 +230,14 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
     return {{list, row.isValid() ? row.row() : list->ListIndex.Get()}};
   }
 
-  // The mouse alone changes no characters, wherever it is pressed but on buttons and in menus.
+  // The mouse alone changes no characters, wherever it is pressed, except on buttons and in menus.
   bool IsOfMouseAlone(const std::string& line) const {
     if (line.starts_with("drop file")) return false;
     const Control* const control = ControlOf(form, hands_.TargetOf(line).widget);
     return control != nullptr && control->Kind() != Kind::kButton;
   }
 
-  // Texts stay as they were, dictionaries grow, and nothing is there that belongs to no text.
+  // Texts stay as they were, dictionaries grow, and every file belongs to a text.
   void ExpectFilesWhole(const Files& before, const Files& after) {
     static const std::regex companion(R"(.*\.([tT][bB][fF]|tlf|spd|gdf)(~\d*)?)");
     NoteSource();
@@ -272,7 +272,7 @@ int Setting(const char* name, int usual) {
 
 TEST(RandomHands, SeeWhatTheModelHolds) {
   constexpr int kLongestWalk = 300;
-  // A list that dropped down is clicked at once.
+  // Lists that have just dropped down are clicked at once.
   QApplication::setDoubleClickInterval(1);
   QApplication::setKeyboardInputInterval(0);
   const QtMessageHandler former = qInstallMessageHandler(Collect);

@@ -1,4 +1,4 @@
-// What a user does, line by line: drawn and written down, or read from a record to do it again.
+// What a user does, line by line: chosen and recorded, or read from a record to replay it.
 #pragma once
 
 #include <deque>
@@ -10,10 +10,10 @@ namespace quill::test {
 
 class Record {
  public:
-  // Thrown where the record that is played has no more lines.
+  // Thrown when the record being replayed has no more lines.
   class Ended {};
 
-  // Writes to a file. A record to play may be null.
+  // Records to `file`. The record to replay may be null.
   Record(const std::filesystem::path& file, const char* toPlay);
   ~Record();
   Record(const Record&) = delete;
@@ -23,9 +23,9 @@ class Record {
   std::string Next(const Draw& draw) {
     return plays_ ? Write(Read()) : Write(draw());
   }
-  // Where the record is, and the last lines of it.
+  // The path of the record, and its last lines.
   std::string LastLines() const;
-  // Tells them of the record that lives, where the process is about to end.
+  // Prints them, if there is a record, when the process is about to end.
   static void TellAtEnd(int signal);
 
  private:

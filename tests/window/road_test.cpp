@@ -1,4 +1,4 @@
-// The road of one text on the real window, by mouse and keyboard.
+// One text on the real window, from opening to saving, by mouse and keyboard.
 #include <QApplication>
 #include <QMenu>
 #include <QtTest>

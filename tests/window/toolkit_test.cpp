@@ -1,4 +1,4 @@
-// What the toolkit would do by itself: it changes nothing that the model holds.
+// What the toolkit would do on its own must not change what the model holds.
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
@@ -29,7 +29,7 @@ class ToolkitTest : public WindowTest {
     QTest::mouseClick(list.viewport(), button, modifiers,
                       line.isValid() ? line.topLeft() + QPoint(10, 3) : below);
   }
-  // Drags something over the middle of a widget and lets it go. Returns whether it was taken.
+  // Drags something over the middle of a widget and drops it. Returns whether it was accepted.
   bool Drop(QWidget& widget, const QMimeData& data) {
     const QPoint middle = widget.rect().center();
     QDragEnterEvent enter(middle, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
@@ -95,7 +95,7 @@ TEST_F(ToolkitTest, TheMouseAloneChangesNoCharacters) {
       seen |= isButton && static_cast<QMouseEvent*>(event)->button() == Qt::MiddleButton;
       return false;
     }
-    bool seen = false;  // it would paste what was selected last
+    bool seen = false;  // it would paste the last selection
   } middle;
   QMimeData words;
   words.setText("three");
@@ -105,7 +105,7 @@ TEST_F(ToolkitTest, TheMouseAloneChangesNoCharacters) {
     QTest::mouseClick(&widget, Qt::MiddleButton, {}, begin);
     EXPECT_FALSE(middle.seen);
     EXPECT_FALSE(Drop(widget, words));
-    // What is selected, dragged to another place of its box.
+    // Drags the selection to another place in its box.
     QTest::mouseClick(&widget, Qt::LeftButton, {}, begin);
     Key(Qt::Key_A, Qt::ControlModifier);
     QTest::mousePress(&widget, Qt::LeftButton, {}, begin);
@@ -253,8 +253,7 @@ TEST_F(ToolkitTest, TheWaitingCursorShowsBeforeWorkBegins) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// An event of no device: where a failure passes through those, the toolkit loses some of its
-// memory.
+// Not a device's event: if a failure passes through one of those, the toolkit leaks memory.
 TEST_F(ToolkitTest, NoFailureLeavesAnEvent) {
   struct Fails : QWidget {
     bool event(QEvent* event) override {

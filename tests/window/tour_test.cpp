@@ -1,4 +1,4 @@
-// The tour runs from end to end, and what the guide shows of it is true.
+// The tour runs from end to end, and the guide shows its true result.
 #include <gtest/gtest.h>
 
 #include <QDir>

@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-// The names in a folder; of the copies alone, or of all that is there.
+// The names in a folder, of the copies only or of everything.
 Names NamesIn(const fs::path& folder, const char* extension = "") {
   Names names;
   if (!fs::exists(folder)) return names;
@@ -314,7 +314,7 @@ TEST_F(CopyFolderTest, NamesCopiesAfterTheirTexts) {
 
 // --- The real program ------------------------------------------------------------------------
 
-// The program in a process of its own, where a hand marks the first word of a text.
+// The program in a separate process, in which a hand marks the first word of a text.
 class ProcessTest : public testing::Test {
  protected:
   // Returns when the word is marked.

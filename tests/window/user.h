@@ -22,18 +22,18 @@ class WindowTest : public testing::Test,
  protected:
   WindowTest();
 
-  // Opens a rich text of that body, with a working copy of the proposed name, and closes the panel
-  // over the text.
+  // Opens a rich text with that body, with a working copy of the proposed name, and closes the
+  // panel over the text.
   void OpenText(const std::string& body);
 
-  // Where the text shows its caret, in the coordinates of its viewport.
+  // Where the text shows a caret at the position, in coordinates of the viewport.
   QRect CaretAt(Position at) const;
-  // How far right of the page's left edge that is.
+  // How far that is to the right of the page's left edge.
   int CaretOnPage(Position at) const;
   const Page& ThePage() const;
   // The text as it is painted, or a part of it.
   QImage Painted(const QRect& place = {{0, 0}, QSize(-1, -1)}) const;
-  // The rectangle that holds all points of the wanted colours.
+  // The smallest rectangle around all points of the wanted colours.
   static QRect AreaOf(const QImage& image, const std::function<bool(const QColor&)>& wanted);
 };
 

@@ -116,7 +116,7 @@ TEST_F(ViewTest, MarksAreToldInWords) {
   EXPECT_EQ(MarkAtCaret(), "Kind B (red)");
 }
 
-// What a reader sees as one character is one to arrows, keys and the mouse.
+// What a reader sees as one character is one for arrows, keys and the mouse.
 TEST_F(ViewTest, TheCaretPassesWhatIsSeenAsOneCharacter) {
   const struct {
     const char* text;
@@ -186,7 +186,7 @@ TEST_F(ViewTest, RaisedAndUnderlinedTextLooksSo) {
   EXPECT_EQ(Area(4, 8, blue), raised);
 }
 
-// One that is not would be passed over, and with it the serifs that the desktop has for it.
+// One that is not would be skipped, and with it the serif typeface that the desktop has for it.
 TEST_F(ViewTest, EveryFamilyOfTheTextIsInstalled) {
   OpenText(R"({\fonttbl{\f1 No such family;}}{\f1 one}{\f0 two})");
   for (const int position : {1, 4}) {
