@@ -1,4 +1,4 @@
-# What `cmake --install` lays where a desktop looks for it, and the Debian package of that.
+# What `cmake --install` puts where a desktop looks for it, and the Debian package of that.
 include(GNUInstallDirs)
 set(app_id org.quillorandix.Quillorandix)
 install(TARGETS quillorandix quilltags)
