@@ -15,7 +15,7 @@
 namespace quill::companion {
 namespace {
 
-// Files, identified by what they are or, if they do not exist, by where they would be.
+// Files, identified by what they are and, in case they do not exist, by where they would be.
 class FileSet {
  public:
   bool Has(const std::string& path) const {

@@ -67,8 +67,8 @@ void LeaveOutBeyond(TagList& list, Position length);
 // Value and RefTerm keep the blanks around them, other fields lose them.
 std::u32string_view Given(const Tag& tag, std::size_t field);
 
-// The number in a field, ignoring blanks around it; nothing unless it is all digits. A number
-// beyond every text remains beyond every text.
+// The number in a field, ignoring blanks; nothing unless the rest is digits. A number beyond every
+// text remains beyond every text.
 std::optional<Position> WholeNumber(std::u32string_view field);
 
 // What a tag refers to.
@@ -78,7 +78,7 @@ struct Reference {
 };
 std::optional<Reference> ReferenceOf(const Tag& tag);
 
-// Which tag of a list a reference points to. The list must outlive this and not change.
+// Which tag of a list a reference points to. The list must not change meanwhile.
 class References {
  public:
   explicit References(const TagList& list);

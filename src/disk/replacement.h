@@ -31,8 +31,8 @@ class Replacement {
   void TakePermissionsOf(const struct stat& old) const;
   // Renames it over the target, and flushes the folder if asked to.
   void PutInPlace();
-  // Renames it to `freePath`, in the target's folder, instead, and flushes the folder if asked to.
-  // Returns false, with nothing changed, if that name is taken.
+  // Renames it to `freePath`, in the target's folder, instead, and flushes the folder. Returns
+  // false, with nothing changed, if that name is taken.
   bool PutUnder(const std::string& freePath);
 
  private:

@@ -564,7 +564,7 @@ constexpr CatalogueRow kRows[] = {
 constexpr std::u32string_view kClassRows[] = {U"Class\t", U"lexematic", U"grammatic", U"structural",
                                               U"rhetorical"};
 constexpr std::u32string_view kOperatorRows[] = {U"Operator", U"a_operator", U"b_operator"};
-// The trailing blank of "absolute " is part of the value.
+// The trailing blanks are part of the values.
 constexpr std::u32string_view kModeRows[] = {U"Mode", U"absolute ", U"relative"};
 constexpr std::u32string_view kGranularityRows[] = {
     U"Granularity", U"instant ", U"sec ",  U"min ",        U"h ",     U"d ",
