@@ -10,8 +10,8 @@
 namespace quill {
 namespace {
 
-// Rows are replaced or added, never removed: the fifth relative type remains after the four
-// absolute ones. That is intended.
+// Rows are replaced or added, never removed: the fifth row of the relative types remains after the
+// four absolute ones. That is intended.
 void WriteRows(ComboBox& combo, std::initializer_list<std::u32string_view> rows) {
   int row = 0;
   for (const std::u32string_view text : rows) combo.SetList(row++, text);

@@ -55,7 +55,7 @@ class SeveralLinesBinder final : public TextBoxBinder {
 
  private:
   SeveralLinesBinder(TextBox& box, QPlainTextEdit& edit, Actions& actions);
-  // Whether the box has text at startup.
+  // Whether the box starts with a long text from the catalogue.
   bool HasStoredText() const;
   QFont FontForStoredText() const;
 
