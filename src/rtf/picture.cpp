@@ -11,13 +11,13 @@ namespace quill::rtf {
 namespace {
 
 constexpr std::int64_t kTwipsInInch = 1440;
-// Of a picture without a size in print: a pixel is 1/96 inch, and drawings count in hundredths of
-// a millimetre.
+// For pictures without a print size: a pixel is 1/96 inch, and drawings count hundredths of a
+// millimetre.
 constexpr std::int64_t kTwipsInPixel = 15;
 constexpr std::int64_t kHundredthsInInch = 2540;
 constexpr std::int64_t kMostTwips = 22 * kTwipsInInch;  // the longest page of word processors
 
-// What the words of a group say of its width or height.
+// What a group's words say about its width or height.
 struct Extent {
   std::int64_t own = 0;   // in pixels, or hundredths of a millimetre
   std::int64_t goal = 0;  // in twips
@@ -33,12 +33,12 @@ struct Extent {
   }
 };
 
-// Goes through the \pict groups inside a group, from one's data to the next one's.
+// Walks the \pict groups inside a group, stopping at the data of each.
 class PictureWalk {
  public:
   explicit PictureWalk(std::string_view group) : lexer_(group) {}
 
-  // Goes on to where the next picture's data begins. Returns false behind the last one.
+  // Advances to the next picture's data. Returns false after the last.
   bool Next() {
     if (inPicture_) Data();
     for (Token token = lexer_.Next(); token.kind != Token::kEnd; token = lexer_.Next()) {
@@ -56,7 +56,7 @@ class PictureWalk {
   bool IsDrawable() const { return pixels_; }
   PictureSize Size() const { return {width_.Shown(pixels_), height_.Shown(pixels_)}; }
 
-  // The data that begins where Next stopped; once.
+  // The data at which Next stopped. Call it once.
   std::string Data() {
     std::string data;
     int high = -1;

@@ -1,5 +1,5 @@
-// Pictures and objects, which in the text are one character each, read from the bytes of that
-// character when they are asked for.
+// Pictures and objects. Each is one character of the text; its size and data are read from that
+// character's bytes on demand.
 #pragma once
 
 #include <string>
@@ -10,16 +10,16 @@
 namespace quill::rtf {
 
 struct PictureSize {
-  Twips width = 0;  // as the text shows it; 0 where the file does not tell
+  Twips width = 0;  // as shown in the text; 0 if the file does not tell
   Twips height = 0;
 };
 
-// The size of the picture or object whose group these bytes are. Reads no further than to where
-// the first picture's own data begins.
+// The size of the picture or object in a group. Stops reading where the first picture's data
+// begins.
 PictureSize SizeOfPicture(std::string_view group);
 
-// The data of the first picture in the group that the file says is PNG or JPEG; empty where there
-// is none. What is no hexadecimal digit there is passed over.
+// The data of the first picture in the group that is declared PNG or JPEG; empty if there is none.
+// Skips what is not a hexadecimal digit.
 std::string PictureData(std::string_view group);
 
 }  // namespace quill::rtf

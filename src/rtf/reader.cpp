@@ -10,7 +10,7 @@
 namespace quill::rtf {
 namespace {
 
-// Where rich text begins: behind a byte order mark and blanks. npos for anything else.
+// Where rich text begins, past a byte order mark and blanks; npos if the bytes are something else.
 std::size_t FindRichText(std::string_view bytes) {
   constexpr std::string_view kBlanks = " \t\r\n";
   std::size_t at = bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
@@ -32,7 +32,7 @@ std::optional<Document> Read(std::string bytes) try {
   Parser parser(std::move(bytes), {});
   Document document = parser.Parse();
   if (!parser.TableCameLate()) return document;
-  // A table behind the first characters holds for them too: read them with it.
+  // A colour table after the first characters applies to them too: parse again with it.
   const Source& source = document.GetSource();
   return Parser(source.bytes, source.colours).Parse();
 } catch (const std::bad_alloc&) {

@@ -1,4 +1,4 @@
-// Bytes of a file to a document.
+// Reads a file's bytes into a document.
 #pragma once
 
 #include <optional>
@@ -8,9 +8,9 @@
 
 namespace quill::rtf {
 
-// Reads rich text, or plain text (UTF-8, UTF-16 with a byte order mark, Windows-1252), which is
-// turned into rich text first. Rich text that breaks off is read as far as it goes. Nothing where
-// the bytes are no text, or beyond what offsets can count.
+// Reads rich text or plain text. Plain text (UTF-8, UTF-16 with a byte order mark, Windows-1252) is
+// converted to rich text first. Truncated rich text is read as far as it goes. Returns nothing if
+// the bytes are not text or are too many for an Origin.
 std::optional<Document> Read(std::string bytes);
 
 // An empty text, ready to be saved.

@@ -1,5 +1,4 @@
-// The typeface of a symbol that a field stands for, read from the bytes of its character when it is
-// asked for.
+// The typeface of a symbol that is written as a field, read from its character's bytes on demand.
 #pragma once
 
 #include <string>
@@ -7,7 +6,7 @@
 
 namespace quill::rtf {
 
-// The typeface that a SYMBOL field names whose group these bytes are; empty for anything else.
+// The typeface named by the SYMBOL field in a group; empty for any other group.
 std::string FontOfSymbol(std::string_view group);
 
 }  // namespace quill::rtf

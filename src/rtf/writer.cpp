@@ -14,12 +14,12 @@ namespace {
 
 bool SameInFile(const Format& saved, const Format& format) {
   CharacterLook look = saved.look;
-  look.fallback = format.look.fallback;  // says how characters are written, not how they look
+  look.fallback = format.look.fallback;  // how characters are written, not how they look
   return saved.now == InFile(format.now) && look == format.look &&
          saved.paragraph == format.paragraph;
 }
 
-// Whether the bytes are read as this text, with every character looking as it does.
+// Whether the bytes read back as this text, every character with the same look.
 bool ReadsAs(const Document& document, std::string bytes) {
   const std::optional<Document> saved = Read(std::move(bytes));
   if (!saved || saved->Text() != document.Text()) return false;

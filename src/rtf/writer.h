@@ -1,4 +1,4 @@
-// A document to the bytes of a rich text file.
+// Writes a document as a rich text file.
 #pragma once
 
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace quill::rtf {
 
-// The source of the document with what was changed since it was read, and nothing else: colour,
-// bold, underline and raised position of characters, typed and deleted characters, and new
-// entries of the colour table. An unchanged document gives the bytes that were read. In a damaged
-// source there are places where that can't be done; where the copy would be read as another text
-// than the document's, the text is written anew, and what else the source holds is lost.
+// Returns the document's source with only what was changed since: colour, bold, underline and
+// raised position of characters, typed and deleted characters, and new entries of the colour table.
+// An unchanged document gives the bytes that were read. If the source is damaged so that such a
+// copy would be read as another text, the text is written from scratch, and whatever else the
+// source held is lost.
 std::string Write(const Document& document);
 
 }  // namespace quill::rtf

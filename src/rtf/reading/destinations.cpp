@@ -1,4 +1,4 @@
-// Groups, and what they hold instead of text: tables, pictures, notes, and what nobody knows.
+// Groups, and what they hold instead of text: tables, pictures, notes, the unknown.
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -29,12 +29,12 @@ void Parser::CloseGroup(const Token& token) {
   LeaveGroup();
 }
 
-// The group's end has been read, with or without what it holds.
+// Call after the group's closing brace, whether its content was read or skipped.
 void Parser::LeaveGroup() {
   text_.Flush();
   head_.Pass();
   if (states_.Depth() <= field_.depth) field_ = {};
-  // What is in force at the document's end stays, for what is typed there.
+  // The formatting at the document's end stays in force for what is typed there.
   if (states_.Depth() > 1) {
     states_.Close();
   } else {
@@ -71,7 +71,7 @@ void Parser::ReadDestination(const WordEntry& entry, const Token& token) {
 
 void Parser::ReadSkipped() {
   if (states_.Depth() > 1) return SkipGroup();
-  // A destination directly in the document's own group would hide all the rest of it.
+  // Skipping a destination in the document's own group would hide the rest of the text.
   Oddity();
 }
 
@@ -82,7 +82,7 @@ void Parser::ReadFontTable() {
   SelectFont(tables_.defaultFont, tables_, states_);
 }
 
-// The first table with colours in it is the file's; others are run over.
+// The first table with any colours is the file's; others are skipped.
 void Parser::ReadColourTable() {
   if (colourTable_ != Found::kNo) {
     Oddity();
@@ -96,7 +96,7 @@ void Parser::ReadColourTable() {
   EndSkipped();
 }
 
-// A picture or an object, with all that its group holds, is one character.
+// A picture or object is one character, with everything in its group.
 void Parser::ReadObject(const Token& token) {
   const bool wholeGroup = head_.IsFirst();
   const Offset close = SkipToClose();
@@ -112,7 +112,7 @@ void Parser::ReadObject(const Token& token) {
   LeaveGroup();
 }
 
-// A picture may stand there in two forms, one behind the other: together they are one character.
+// A picture may be written in two forms, one after the other: together they are one character.
 void Parser::ReadPictureForm(const WordEntry& entry, const Token& token) {
   const bool second = head_.IsFirst() && pictureForms_.IsPair(entry.argument, text_.Size()) &&
                       IsOnlyLineEnds(pictureForms_.End(), head_.Brace());
@@ -140,8 +140,8 @@ void Parser::ReadFieldInstruction() {
   if (ofField) field_.instruction = std::string_view(bytes_).substr(begin, lexer_.At() - begin);
 }
 
-// A symbol with all of its field is one character. The field's group is left first: the symbol's
-// look is that of the place, so that characters can be typed beside it.
+// A symbol is one character, with all of its field. It takes its look from outside the group, so
+// that characters can be typed beside it.
 void Parser::CloseField(Offset end) {
   Field field = std::exchange(field_, {});
   LeaveGroup();
@@ -156,8 +156,8 @@ void Parser::CloseField(Offset end) {
   marks_.GroupWasCharacter(std::move(field.marks));
 }
 
-// Runs over the rest of the group, whose closing brace is the last token read. Returns where that
-// stands, or the end of the file where it is missing.
+// Skips the rest of the group, closing brace included. Returns the offset of that brace, or the end
+// of the file if it is missing.
 Offset Parser::SkipToClose() {
   Offset at = lexer_.At();
   for (std::size_t depth = 1; depth > 0;) {
@@ -180,7 +180,7 @@ void Parser::SkipGroup() {
   EndSkipped();
 }
 
-// A group that holds no characters was run over.
+// Call after skipping a group that holds no characters.
 void Parser::EndSkipped() {
   marks_.Other();
   LeaveGroup();

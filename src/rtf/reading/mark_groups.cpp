@@ -6,7 +6,7 @@
 namespace quill::rtf {
 
 MarkGroupFinder::MarkGroupFinder(std::size_t bytes) {
-  // A mark on a letter, and a blank behind it. Only what no save writes has more groups.
+  // A mark on one letter and a blank. Only files that no save wrote have more groups.
   constexpr std::size_t kShortest = 12;
   found_.reserve(bytes / kShortest);
 }
@@ -61,7 +61,7 @@ void MarkGroupFinder::GroupWasCharacter(Place place) {
 }
 
 std::vector<MarkGroup> MarkGroupFinder::Take() {
-  // They were found in the order of their closing braces, which is the same where none is nested.
+  // They were found in the order of their closing braces, which is the same unless some are nested.
   const auto byOpening = [](const MarkGroup& a, const MarkGroup& b) { return a.open < b.open; };
   if (!std::is_sorted(found_.begin(), found_.end(), byOpening)) {
     std::sort(found_.begin(), found_.end(), byOpening);

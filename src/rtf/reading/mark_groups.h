@@ -1,5 +1,5 @@
-// Finds the groups of a file that hold words of the four attributes, then characters: marks as
-// they are saved.
+// Finds the groups that consist of words of the four attributes and then characters: the form in
+// which marks are saved.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace quill::rtf {
 
-// Told of everything that a reader meets, in order.
+// The parser reports everything that it reads, in order.
 class MarkGroupFinder {
  public:
   // `bytes` is the size of the file.
@@ -22,15 +22,16 @@ class MarkGroupFinder {
   // Anything that is neither.
   void Other() { open_.clear(); }
   void Close(Offset at);
-  // The file ends: whatever is open ends there.
+  // The file ends, and all open groups with it.
   void End(Offset at);
   // The group opened last turns out to be one character.
   void GroupIsCharacter();
 
-  // What is known at one place of the file.
+  // A snapshot.
   struct Place;
   Place Here() const;
-  // The group opened last in front of a place turns out to be one character. It is closed by now.
+  // The group that was the last to be opened when the snapshot was taken, and is closed by now,
+  // turns out to be one character.
   void GroupWasCharacter(Place place);
 
   // In the order of their opening braces.
@@ -41,7 +42,7 @@ class MarkGroupFinder {
     MarkGroup group;
     bool hasContent = false;
   };
-  // Deeper nesting than this is no program's mark.
+  // No program nests marks deeper than this.
   static constexpr std::size_t kDeepest = 32;
 
   // The innermost open groups that may still be marks, each directly in the one before.

@@ -1,4 +1,4 @@
-// Tokens to characters and formatting. Groups are in destinations.cpp.
+// Turns tokens into characters and formatting. Groups are in destinations.cpp.
 #include "rtf/reading/parser.h"
 
 #include <utility>
@@ -53,7 +53,7 @@ Document Parser::Parse() {
   if (!header_.HasEnded()) header_.EndAt(bodyEnd);
   if (!tables_.colours.present) tables_.colours.end = header_.End();
   const FormatId endFormat = states_.Format();
-  // A line feed that comes to stand behind a lone return would be read together with it.
+  // If an edit moved a line feed behind a lone return, the two would be read as one.
   if (!text_.IsWhole() || lineEnds_.HasLoneReturn()) Oddity();
   Source source{std::move(bytes_), std::move(tables_.colours), marks_.Take(), bodyEnd, wellFormed_};
   return Document(std::move(source), tables_.fonts.TakeFaces(), std::move(formats_),
@@ -97,12 +97,12 @@ void Parser::PassHeader(const Token& token) {
   if (states_.Depth() == 0 || token.kind == Token::kClose) return;
   const bool isWord = token.kind == Token::kWord;
   if (isWord && IsOfHeader(LookUp(token.word).word)) return;
-  // The word with which the file begins stays where it is, whatever it is.
+  // The file's first word stays in front, whatever it is.
   header_.EndAt(isWord && head_.IsFirst() ? token.end : token.begin);
 }
 
-// Bytes, words and symbols count as one character each; a brace ends what stands in for a \u.
-// Returns whether the token, or its beginning, was part of that.
+// A byte, word or symbol counts as one character; a brace ends the stand-in. Returns whether the
+// token, or a first part of it, was consumed.
 bool Parser::ReadStandIn(const Token& token) {
   if (token.kind == Token::kOpen || token.kind == Token::kClose) {
     standIn_.End();
@@ -136,7 +136,7 @@ void Parser::ReadText(const Token& token) {
 void Parser::ReadHex(const Token& token) {
   if (IsShort(token)) Oddity();
   if (token.number < 0) {
-    // Among the bytes of a character it belongs to that.
+    // Inside a multi-byte character it is part of that.
     if (!text_.AwaitsByte()) marks_.Other();
   } else if (token.number == '\r' || token.number == '\n') {
     ReadLineEndByte(token);
@@ -145,7 +145,7 @@ void Parser::ReadHex(const Token& token) {
   }
 }
 
-// Carriage return and line feed are one paragraph end each, and together one.
+// A carriage return, a line feed, and the pair of them are one paragraph end.
 void Parser::ReadLineEndByte(const Token& token) {
   const Offset behindReturn = lineEnds_.ReturnEnd();
   if (token.number == '\n' && behindReturn != 0 && IsOnlyLineEnds(behindReturn, token.begin)) {
@@ -169,7 +169,7 @@ void Parser::ReadSymbol(const Token& token) {
     case '\\':
     case '{':
     case '}':
-      // These are bytes like any other.
+      // Bytes like any other.
       AddByte(static_cast<unsigned char>(token.number), token);
       break;
     case '\r':
@@ -200,7 +200,7 @@ void Parser::ReadWord(const Token& token) {
   text_.WordComes();
   switch (entry.word) {
     case Word::kData:
-      // Outside of pictures and what is skipped, it could be taken for words.
+      // In the middle of text, its data could be mistaken for words.
       Oddity();
       [[fallthrough]];
     case Word::kUnknown:
@@ -273,7 +273,7 @@ void Parser::ReadUnicode(const Token& token) {
   }
 }
 
-// A code page by its number counts more than \mac and the like.
+// A numbered code page overrides \mac and the like.
 void Parser::ReadCharacterSet(const WordEntry& entry, const Token& token) {
   if (entry.word == Word::kDefaultFont) {
     tables_.defaultFont = token.number;

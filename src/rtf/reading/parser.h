@@ -1,4 +1,4 @@
-// The tokens of a rich text file to a document.
+// Parses rich text into a document.
 #pragma once
 
 #include <cstddef>
@@ -13,15 +13,15 @@
 
 namespace quill::rtf {
 
-// Tells the text of one file from the rest. The formatting in force is on a stack of its own;
-// characters go to a builder with their format and their bytes; groups that hold no text are run
-// over. Nothing else needs keeping, for a save copies the bytes.
+// Separates a file's text from everything else. Formatting in force is kept on a stack, characters
+// go to a builder with their format and the bytes they came from, and groups without text are
+// skipped. Nothing else is kept, since a save copies the bytes.
 class Parser {
  public:
-  // `known` is the file's colour table where an earlier parse found it; else it is empty.
+  // `known` is the file's colour table if an earlier parse found it, or else empty.
   Parser(std::string bytes, ColourTable known);
 
-  // Once.
+  // Call it once.
   Document Parse();
   // Whether characters stand in front of the colour table.
   bool TableCameLate() const { return colourTable_ == Found::kLate; }
@@ -46,7 +46,7 @@ class Parser {
   void AddByte(unsigned char byte, const Token& token);
   void AddCharacter(char32_t character, const Token& token, Origin::Kind kind = Origin::kPlain);
   bool IsOnlyLineEnds(Offset begin, Offset end) const;
-  // The file holds something that no program writes.
+  // Notes that the file holds something that no program writes.
   void Oddity() { wellFormed_ = false; }
 
   // Groups, in destinations.cpp.
@@ -81,7 +81,7 @@ class Parser {
   PictureForms pictureForms_;
   Field field_;  // the innermost
   Found colourTable_ = Found::kNo;
-  bool skipNext_ = false;  // the next group gives way to the one behind it
+  bool skipNext_ = false;  // \upr: the next group gives way to the one after it
   bool ended_ = false;     // the document's own group is closed
   bool wellFormed_ = true;
 };

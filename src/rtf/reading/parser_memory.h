@@ -10,7 +10,7 @@
 
 namespace quill::rtf {
 
-// Where the innermost group was opened, and whether anything but a \* has come in it.
+// The innermost group's opening brace, and whether anything but a \* has followed it.
 class GroupHead {
  public:
   void Open(Offset brace) {
@@ -19,14 +19,14 @@ class GroupHead {
     starred_ = false;
   }
   void Star() { starred_ = true; }
-  // Anything else has come.
+  // Anything else has been read.
   void Pass() { isFirst_ = starred_ = false; }
 
-  // Whether the token that is being read stands first in its group, but for a \*.
+  // Whether the current token is the first in its group, a \* apart.
   bool IsFirst() const { return isFirst_; }
-  // Whether a \* stands in front of it.
+  // Whether a \* precedes it.
   bool IsStarred() const { return starred_; }
-  // Of the group's brace, while IsFirst.
+  // Offset of the group's brace; valid while IsFirst.
   Offset Brace() const { return brace_; }
 
  private:
@@ -35,16 +35,16 @@ class GroupHead {
   bool starred_ = false;
 };
 
-// What stands in for a \u in readers without Unicode.
+// The characters after a \u that stand in for it in readers without Unicode.
 class StandIn {
  public:
-  // So many characters will stand in; they belong to the \u if that is a character.
+  // That many will follow. They belong to the \u if that is a character.
   void Expect(std::uint32_t characters, bool belong) {
     left_ = characters;
     belong_ = belong;
   }
   void End() { left_ = 0; }
-  // Passes up to that many characters. Returns how many of them stand in.
+  // Of that many characters, returns how many are still stand-ins, and counts them off.
   std::uint32_t Pass(std::uint32_t characters) {
     const std::uint32_t passed = std::min(left_, characters);
     left_ -= passed;
@@ -59,7 +59,7 @@ class StandIn {
   bool belong_ = false;
 };
 
-// Where a colour table can stand: behind the words with which a file begins, and its fonts.
+// The end of the header words and fonts, where a colour table can be inserted.
 class Header {
  public:
   void EndAt(Offset place) {
@@ -75,17 +75,17 @@ class Header {
   Offset end_ = 0;
 };
 
-// Carriage returns and line feeds that are written as bytes.
+// Carriage returns and line feeds written as \'hh.
 class LineEndBytes {
  public:
   void AddReturn(Offset end) {
     returnEnd_ = end;
     ++lone_;
   }
-  // A line feed goes with the last return.
+  // A line feed completes the last return.
   void AddFeed() { --lone_; }
 
-  // Behind the last return; 0 where there was none.
+  // The end of the last return; 0 if there was none.
   Offset ReturnEnd() const { return returnEnd_; }
   bool HasLoneReturn() const { return lone_ > 0; }
 
@@ -94,10 +94,10 @@ class LineEndBytes {
   std::size_t lone_ = 0;
 };
 
-// The form in which the last picture was written, where a file has two of each.
+// Which of its two forms the last picture had.
 class PictureForms {
  public:
-  // A group in that form ended at `end`, in front of which the text had so many characters.
+  // A group in that form ended at `end`, after that many characters of text.
   void Add(int form, std::size_t characters, Offset end) {
     form_ = form;
     characters_ = characters;
@@ -105,8 +105,8 @@ class PictureForms {
   }
   void Clear() { form_ = 0; }
 
-  // Whether a group in that form is the same picture once more, if only line ends stand between
-  // the two.
+  // Whether a group in that form is the last picture again, provided that only line ends lie
+  // between.
   bool IsPair(int form, std::size_t characters) const {
     return form_ != 0 && form_ != form && characters_ == characters;
   }
@@ -118,11 +118,11 @@ class PictureForms {
   Offset end_ = 0;
 };
 
-// An open field: it stands for a character where its instruction names one and it has no result.
+// An open field. It becomes a character if its instruction names one and it has no result.
 struct Field {
-  std::size_t depth = 0;  // of its group; 0 for no field
+  std::size_t depth = 0;  // of its group; 0 if no field is open
   Offset begin = 0;
-  std::size_t characters = 0;  // in front of it
+  std::size_t characters = 0;  // of text in front of it
   std::string_view instruction;
   MarkGroupFinder::Place marks;
 };

@@ -1,7 +1,6 @@
-// The formatting in force while a file is read, and what braces save and restore of it.
-//
-// A hostile file opens a group every byte or two. Equal states are therefore stored once and told
-// by a number, and groups that begin in the same state are counted, not stacked.
+// The formatting in force while a file is read, which braces save and restore.
+// A hostile file can open a group every byte or two. So equal states are stored once and numbered,
+// and nested groups that begin in the same state are counted, not stacked.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +16,7 @@ namespace quill::rtf {
 
 struct State {
   Attributes attributes;
-  bool otherBold = false;  // of the run direction that is not in force
+  bool otherBold = false;  // of the run direction not in force
   CharacterLook look;
   ParagraphLook paragraph;
   const CodePage* page = nullptr;  // of the current font
@@ -27,11 +26,11 @@ struct State {
 
 class StateStack {
  public:
-  // Formats of states are entered into the table, which must outlive the stack.
+  // Adds the formats of states to the table, which must outlive the stack.
   StateStack(FormatTable& formats, const State& first);
 
   const State& Now() const { return now_; }
-  // Each stores what differs; most words say what holds anyway.
+  // Nothing happens if nothing changes; most words repeat what is in force.
   void Set(const State& next) { Store(now_, next); }
   void Set(const Attributes& next) { Store(now_.attributes, next); }
   void Set(const CharacterLook& next) { Store(now_.look, next); }
@@ -49,7 +48,7 @@ class StateStack {
   using StateId = std::uint32_t;
   struct Level {
     StateId state;
-    std::uint32_t groups;  // that many groups, one in the other, began in this state
+    std::uint32_t groups;  // how many groups, nested directly, began in this state
   };
   struct Hash {
     std::size_t operator()(const State& state) const;

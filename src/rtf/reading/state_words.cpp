@@ -29,7 +29,7 @@ std::int32_t BackgroundOf(const Token& token, const Tables& tables) {
   return static_cast<std::int32_t>(ColourOf(tables.colours, token.number));
 }
 
-// Each direction has a weight of its own: the one in force is the run's.
+// Each direction has its own weight.
 void SetDirection(bool rightToLeft, StateStack& states) {
   State next = states.Now();
   if (next.look.rightToLeft == rightToLeft) return;
@@ -56,7 +56,7 @@ AttributeChange AttributesOf(const WordEntry& entry, const Token& token, const T
     case Word::kBold:
       return {.bold = IsOn(token)};
     case Word::kAssociatedBold:
-      // The weight of right-to-left runs goes by this name.
+      // This is the weight of right-to-left runs.
       if (!state.look.rightToLeft) return {};
       return {.bold = IsOn(token)};
     case Word::kUnderline:

@@ -16,8 +16,8 @@ struct Tables {
   bool pageIsNumbered = false;             // it was told by its number
 };
 
-// Carries out a word of the state. Returns what it sets of the four attributes, where it sets
-// nothing else.
+// Applies a word to the state. Returns which of the four attributes it sets; nothing if it sets
+// anything else.
 AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const Tables& tables,
                                StateStack& states);
 

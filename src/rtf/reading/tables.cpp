@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kMostFaces = 65535;
 
-// What the end of a font's name says about its code page, where nothing else does.
+// The code page that a font's name implies by its ending, if nothing else tells.
 int CodePageOfName(std::string_view name) {
   static constexpr std::array<std::pair<std::string_view, int>, 8> kSuffixes = {
       {{" CE", 1250},
@@ -31,8 +31,7 @@ int CodePageOfName(std::string_view name) {
   return 0;
 }
 
-// Appends a code unit of UTF-16; with the first half of a pair in front of it, it makes one
-// character.
+// Appends a UTF-16 code unit, joining it with a preceding high surrogate.
 void AppendUnit(std::u32string& name, char32_t unit) {
   const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
   if (low && !name.empty() && name.back() >= 0xD800 && name.back() <= 0xDBFF) {
@@ -67,8 +66,8 @@ FontTable::FontTable() { faces_.emplace_back(); }
 void FontTable::Read(Lexer& lexer, const CodePage& standard, std::uint32_t fallback) {
   standard_ = &standard;
   fallback_ = fallback;
-  // A font stands in a group of its own or, in old files, directly in the table's. What is nested
-  // deeper (\*\panose, \*\falt) belongs to no name.
+  // A font has a group of its own or, in old files, stands directly in the table's. Deeper groups
+  // (\*\panose, \*\falt) are not part of any name.
   constexpr std::size_t kDeepest = 2;
   for (std::size_t depth = 1; depth > 0;) {
     const Token token = lexer.Next();
@@ -122,12 +121,12 @@ void FontTable::ReadWord(const Token& token) {
 
 void FontTable::EndBytes() {
   const CodePage& page = PageOf(entry_);
-  // The name of a symbol font is ordinary text.
+  // A symbol font's name is ordinary text.
   entry_.name += DecodeName(entry_.bytes, page.IsSymbol() ? CodePage::Of(1252) : page);
   entry_.bytes.clear();
 }
 
-// UTF-8 has no character set of its own: where a font or the file names it, it counts.
+// No \fcharset stands for UTF-8, so it wins if the font or the file names it.
 const CodePage& FontTable::PageOf(const Entry& entry) const {
   const int ofCharset = CodePageOfCharset(entry.charset);
   if (entry.codePage == CodePage::kUtf8) return CodePage::Of(CodePage::kUtf8);

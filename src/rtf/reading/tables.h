@@ -1,4 +1,4 @@
-// The tables in front of a file's text: fonts and colours.
+// The font and colour tables of a file.
 #pragma once
 
 #include <cstdint>
@@ -24,15 +24,14 @@ class FontTable {
  public:
   FontTable();
 
-  // Reads on from inside the table's group to its closing brace, which is the last token taken.
-  // `standard` is the code page of the document, `fallback` how many characters follow a \u.
+  // Reads from inside the table's group up to and including its closing brace. `standard` is the
+  // document's code page, `fallback` the number of characters that follow a \u.
   void Read(Lexer& lexer, const CodePage& standard, std::uint32_t fallback);
-  // The font of a number, or nullptr where the table has none.
+  // The font with that number, or nullptr.
   const Font* Find(std::int32_t number) const;
-  // Whether a font of that name, whatever its case, is one of symbols: by the table or, where that
-  // does not say so, because everybody knows it.
+  // Whether a font is a symbol font, by the table or by its well-known name. Ignores case.
   bool IsSymbol(std::string_view name) const;
-  // Face 0 stands for every font that the file does not declare.
+  // Face 0 stands for all fonts that the file does not declare.
   std::vector<FontFace> TakeFaces() { return std::move(faces_); }
 
  private:
@@ -43,7 +42,7 @@ class FontTable {
     int charset = -1;
     int codePage = 0;
     std::u32string name;
-    std::string bytes;  // what follows of the name, in the font's own code page
+    std::string bytes;  // of the name after that, in the font's own code page
   };
   void Read(const Token& token, std::string_view bytes);
   void ReadWord(const Token& token);
@@ -53,7 +52,7 @@ class FontTable {
   const CodePage& PageOf(const Entry& entry) const;
 
   std::vector<FontFace> faces_;
-  std::unordered_set<std::string> symbolNames_;  // in small letters
+  std::unordered_set<std::string> symbolNames_;  // in lower case
   std::unordered_map<std::int32_t, Font> fonts_;
   Entry entry_;
   const CodePage* standard_ = nullptr;
@@ -61,14 +60,14 @@ class FontTable {
   std::uint32_t fallbackLeft_ = 0;
 };
 
-// Reads the colour table on from inside its group to its closing brace. Returns false where the
-// file breaks off before; then the table is as it was.
+// Reads from inside the colour table's group up to and including its closing brace. Returns false,
+// and leaves the table alone, if the file breaks off before that.
 bool ReadColourTable(Lexer& lexer, ColourTable& table);
 
-// The colour that a number names; black where the entry is automatic or missing.
+// The colour with that number; black if the entry is automatic or missing.
 Colour ColourOf(const ColourTable& table, std::int32_t number);
 
-// Notes the number of a colour word.
+// Records that a word uses that number.
 void NoteColour(ColourTable& table, std::int32_t number);
 
 }  // namespace quill::rtf

@@ -14,8 +14,8 @@ bool IsLowHalf(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 
 }  // namespace
 
-// No file has more characters than bytes: nothing is ever moved to grow. Memory that stays
-// untouched costs nothing.
+// No file has more characters than bytes, so no array ever has to grow. Untouched memory costs
+// nothing.
 TextBuilder::TextBuilder(StateStack& states, std::size_t bytes) : states_(states), bytes_(bytes) {
   text_.reserve(bytes);
   formats_.Reserve(bytes);
@@ -54,10 +54,10 @@ void TextBuilder::PutAscii(std::string_view bytes, Offset begin) {
   origins_.AppendBytes(bytes.size(), begin);
 }
 
-// Large pages are taken where characters will fill them, which is told from those read so far.
+// Asks for large pages as far as characters will fill them, judging by those read so far.
 void TextBuilder::LookAhead(Offset read) {
   constexpr std::size_t kStep = std::size_t{1} << 17U;
-  // Before there is anything to go by, few.
+  // A low guess, before there is anything to go by.
   const std::size_t expected = nextLook_ == 0 ? bytes_ / 4 : text_.size() * bytes_ / read;
   UseLargePages(text_.data(), expected * sizeof(char32_t));
   formats_.Expect(expected);
@@ -144,7 +144,7 @@ void TextBuilder::EndPair() {
   if (highHalf_ == 0) return;
   highHalf_ = 0;
   PutBroken(pairBegin_, pairEnd_);
-  // Words may have come since.
+  // Words may have changed the format since.
   formats_.Fill(Size() - 1, Size(), halfFormat_);
 }
 

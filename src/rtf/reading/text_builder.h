@@ -1,7 +1,6 @@
 // Collects the characters of a text while a file is read, each with its format and its bytes.
-//
-// Bytes of a multi-byte character, and the first half of a surrogate pair, wait here until the
-// rest has come or something else has: then they are U+FFFD.
+// The first bytes of a multi-byte character and the first half of a surrogate pair wait here for
+// the rest. If something else comes, they become U+FFFD.
 #pragma once
 
 #include <cstddef>
@@ -26,25 +25,24 @@ class TextBuilder {
   void Add(char32_t character, Offset begin, Offset end, Origin::Kind kind = Origin::kPlain);
   // Literal bytes of the file, from `begin` on.
   void AddBytes(std::string_view bytes, Offset begin);
-  // One byte, in whatever way the file writes it between the two offsets.
+  // One byte, however the file spells it between the two offsets.
   void AddByte(unsigned char byte, Offset begin, Offset end);
-  // The number of a \u word. Returns whether it is a character, or half of one, to which what
-  // stands in for it belongs.
+  // The number of a \u word. Returns whether it is a character or half of one.
   bool AddUnicode(std::int32_t number, Offset begin, Offset end);
-  // The last \u reaches to `end`, with what stands in for it in readers without Unicode.
+  // Extends the last \u to `end`, over what stands in for it in readers without Unicode.
   void ExtendUnicode(Offset end);
-  // The last character reaches to `end`.
+  // Extends the last character to `end`.
   void ExtendLast(Offset end) { origins_.ExtendLast(end); }
 
-  // Whether the last byte leads a multi-byte character that is not whole yet.
+  // Whether a multi-byte character is incomplete so far.
   bool AwaitsByte() const { return !sequence_.empty(); }
-  // A word other than \u comes: bytes that wait are over.
+  // A word other than \u follows: an incomplete sequence will not be completed.
   void WordComes();
-  // A brace or a character comes: nothing waits any longer.
+  // A brace or a character follows: nothing that waits will be completed.
   void Flush();
 
   std::size_t Size() const { return text_.size(); }
-  // Whether no character was broken off, or its halves parted by words.
+  // Whether no character was incomplete, or had its halves separated by words.
   bool IsWhole() const { return isWhole_; }
   std::u32string TakeText() { return std::move(text_); }
   FormatNumbers TakeFormats() { return std::move(formats_); }
@@ -63,16 +61,16 @@ class TextBuilder {
   FormatNumbers formats_;
   OriginList origins_;
   std::size_t bytes_;         // of the file
-  std::size_t nextLook_ = 0;  // at that many characters, guess anew how many will come
+  std::size_t nextLook_ = 0;  // at that many characters, guess again how many will come
 
-  std::string sequence_;  // bytes of a character that is not whole yet
+  std::string sequence_;  // the first bytes of an incomplete character
   Offset sequenceBegin_ = 0;
   Offset sequenceEnd_ = 0;
 
   bool isWhole_ = true;
   char32_t highHalf_ = 0;     // of a pair, or 0
-  bool pairIsSplit_ = false;  // words stand behind the high half
-  FormatId halfFormat_ = 0;   // that in force at the high half
+  bool pairIsSplit_ = false;  // words follow the high half
+  FormatId halfFormat_ = 0;   // of the high half
   Offset pairBegin_ = 0;
   Offset pairEnd_ = 0;
 };

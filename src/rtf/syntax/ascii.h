@@ -1,10 +1,10 @@
-// The classes of bytes of which control words are made. The C library's go by the locale.
+// Character classes for control words. The C library's depend on the locale.
 #pragma once
 
 namespace quill::rtf {
 
 constexpr bool IsLetter(char c) {
-  const int lower = c | 0x20;  // no other character becomes a letter by this
+  const int lower = c | 0x20;  // turns no other character into a letter
   return lower >= 'a' && lower <= 'z';
 }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }

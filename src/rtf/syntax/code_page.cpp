@@ -21,8 +21,8 @@ Converter Open(const std::string& name) {
   return U_SUCCESS(status) != 0 ? std::move(converter) : nullptr;
 }
 
-// Names for the pages whose number is no name. Where ICU has no table of an old Macintosh page,
-// the Windows page of the same script stands in.
+// Pages that ICU does not know by their number. If it lacks an old Macintosh page altogether, the
+// Windows page of the same script stands in.
 const char* SpecialName(int number) {
   switch (number) {
     case 10000:
@@ -71,7 +71,7 @@ Converter OpenPage(int number) {
   return nullptr;
 }
 
-// ICU keeps no state between calls that reset the converter; one converter a page and thread.
+// One converter per page and thread. Every call resets it, so no state is kept in between.
 Converter& ConverterOf(int number) {
   thread_local std::map<int, Converter> converters;
   const auto [entry, isNew] = converters.try_emplace(number);

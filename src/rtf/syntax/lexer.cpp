@@ -11,7 +11,7 @@ namespace {
 
 bool IsIgnored(char c) { return c == '\r' || c == '\n' || c == '\0'; }
 
-// Whether a byte goes on with a run of literal text.
+// Whether a byte continues a run of literal text.
 constexpr std::array<bool, 256> MakeLiteral() {
   std::array<bool, 256> literal{};
   literal.fill(true);
@@ -103,7 +103,7 @@ void Lexer::Hex(Token& token) {
   for (int digits = 0; digits < 2 && !AtEnd() && HexValue(Here()) >= 0; ++digits, ++at_) {
     token.number = std::max(token.number, 0) * 16 + HexValue(Here());
   }
-  // What stands in place of a second digit is no text.
+  // Whatever stands in place of the second digit is not text.
   const bool broken = at_ - token.begin == 3 && token.number >= 0;
   if (broken && !AtEnd() && IsLiteral(Here())) ++at_;
 }

@@ -1,8 +1,6 @@
-// Bytes of a rich text file to tokens.
-//
+// Splits rich text into tokens.
 // A token is a brace, a control word or symbol, a byte written as \'hh, or a run of literal bytes.
-// The lexer never fails: whatever the bytes are, they come out as tokens, and every token ends
-// behind where it began.
+// The lexer never fails: any bytes come out as tokens, and no token but the last is empty.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +25,7 @@ struct Token {
 
   Kind kind = kEnd;
   bool hasNumber = false;
-  std::int32_t number = 0;  // numbers beyond 32 bits come as the nearest that fits
+  std::int32_t number = 0;  // clamped to 32 bits
   Offset begin = 0;
   Offset end = 0;
   std::string_view word;  // of a control word, without backslash and number
@@ -40,7 +38,7 @@ class Lexer {
 
   Token Next();
   Offset At() const { return at_; }
-  // Goes on from there; at most the end of the bytes.
+  // Continues from there; at most the end of the bytes.
   void Seek(Offset at) { at_ = at; }
   std::string_view Bytes() const { return bytes_; }
   std::string_view BytesOf(const Token& token) const {

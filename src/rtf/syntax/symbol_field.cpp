@@ -11,7 +11,7 @@
 namespace quill::rtf {
 namespace {
 
-// The text of an instruction, without the groups of data that may stand in it.
+// The text of an instruction, without any groups of data in it.
 std::string TextOf(std::string_view content) {
   std::string text;
   std::size_t depth = 0;

@@ -15,15 +15,15 @@ struct SymbolField {
 
   std::uint32_t number = 0;
   CharacterSet set = kFont;
-  std::string font;  // as the file writes it; empty where none is named
+  std::string font;  // as the file writes it; empty if it names none
 };
 
-// What a \fldinst group says, whose content the bytes begin with; nothing for the instruction of
-// any other field.
+// Parses the content of a \fldinst group; bytes after its closing brace are ignored. Returns
+// nothing for other fields' instructions.
 std::optional<SymbolField> ReadSymbolField(std::string_view content);
 
-// The character that is meant: `ansi` has those that neither the field nor a font of symbols
-// numbers in its own way. 0 where the number is no character's.
+// The character that a field names. Its number refers to `ansi` unless the field names another set
+// or the font is a symbol font. Returns 0 if the number is no character's.
 char32_t CharacterOf(const SymbolField& field, const CodePage& ansi, bool symbolFont);
 
 }  // namespace quill::rtf

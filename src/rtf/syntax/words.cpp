@@ -147,7 +147,7 @@ constexpr WordEntry kWords[] = {
     {"fcharset", Word::kFontCharset},
     {"cpg", Word::kFontCodePage},
 
-    // Other words that number an entry of the colour table.
+    // Other words that refer to the colour table.
     {"acf", Word::kOtherColour},
     {"ulc", Word::kOtherColour},
     {"cfpat", Word::kOtherColour},
@@ -165,7 +165,7 @@ constexpr WordEntry kWords[] = {
     {"pncf", Word::kOtherColour},
     {"strokec", Word::kOtherColour},
 
-    // Words that may follow \* without making their group a destination.
+    // May follow \* without making their group a destination.
     {"cs", Word::kKnown},
     {"s", Word::kKnown},
     {"ds", Word::kKnown},
@@ -178,7 +178,7 @@ constexpr WordEntry kWords[] = {
     {"revised", Word::kKnown},
 };
 
-// Destinations that hold no text of the document, whether a \* stands in front of them or not.
+// Destinations that hold no text of the document, with or without a leading \*.
 constexpr std::string_view kSkippedWords =
     "aftncn aftnsep aftnsepc annotation atnauthor atndate atnicn atnid atnparent atnref "
     "atntime atrfend atrfstart author background bkmkend bkmkstart blipuid buptim category "
@@ -201,7 +201,7 @@ constexpr std::string_view kSkippedWords =
     "template themedata title txe userprops wgrffmtfilter windowcaption writereservation "
     "writereservhash xe xform xmlattrname xmlattrvalue xmlclose xmlname xmlnstbl xmlopen";
 
-// A table with a free place at least every second one: a look-up compares about one name.
+// A hash table at most half full: a look-up compares about one name.
 class WordIndex {
  public:
   WordIndex() : places_(kPlaces) {
@@ -213,7 +213,7 @@ class WordIndex {
     }
   }
 
-  // A free place where there is none.
+  // Returns an empty entry if there is none.
   const WordEntry& Find(std::string_view name) const { return places_[PlaceOf(name)]; }
 
  private:

@@ -1,4 +1,4 @@
-// The control words that the reader knows, and what each is for.
+// The control words that the reader knows, and what they mean.
 #pragma once
 
 #include <cstdint>
@@ -8,17 +8,17 @@ namespace quill::rtf {
 
 enum class Word : std::uint8_t {
   kUnknown,
-  kKnown,   // formatting that the program does not show; its text is text all the same
-  kHeader,  // may stand in front of the first table of a file
+  kKnown,   // formatting that the program does not show; what follows is text all the same
+  kHeader,  // may precede the first table of a file
   kData,    // \bin
-  // Characters. The argument is the code point where it is not fixed.
+  // Characters. The argument of kCharacter is the code point.
   kCharacter,
   kParagraph,  // a paragraph end
   kCell,
   kRow,
   kUnicode,  // \u
   // Groups.
-  kSkipped,      // a destination whose content is no text of the document
+  kSkipped,      // a destination whose content is not text
   kTransparent,  // a destination whose content is text
   kField,
   kFieldInstruction,
@@ -30,7 +30,7 @@ enum class Word : std::uint8_t {
   kAlternatives,  // \upr: the first group gives way to the second
   // The four attributes.
   kColour,
-  kOtherColour,  // names an entry of the colour table for something else than the characters
+  kOtherColour,  // uses an entry of the colour table for something other than characters
   kBold,
   kAssociatedBold,
   kUnderline,
@@ -72,11 +72,11 @@ struct WordEntry {
   std::int32_t argument = 0;
 };
 
-// Colour words of a file with higher numbers than this are not counted with the table: no program
-// writes them, and a table that reached them would outgrow the file.
+// Higher colour numbers in a file are ignored when the table is extended: no program writes them,
+// and a table that reached them would outgrow the file.
 inline constexpr std::int32_t kHighestColour = 32767;
 
-// The entry of a word; that of an unknown word is kUnknown. Case counts.
+// Looks a word up; unknown words get kUnknown. Case-sensitive.
 const WordEntry& LookUp(std::string_view name);
 
 }  // namespace quill::rtf

@@ -42,8 +42,8 @@ std::string ColourNumbers::TableInsertion() const {
   return text;
 }
 
-// Entries that words of the file name, but the table lacks, have been black to other programs so
-// far. The first entry of a table is the automatic colour.
+// Entries that the file uses but its table lacks are black to other programs. The first entry of a
+// table is the automatic colour.
 std::string ColourNumbers::GapEntries() const {
   std::string text;
   for (std::size_t number = table_.entries.size(); number < firstNew_; ++number) {
@@ -53,7 +53,7 @@ std::string ColourNumbers::GapEntries() const {
 }
 
 std::string ColourNumbers::MirrorInsertion() const {
-  // Parts are counted in hundred thousandths.
+  // Parts count hundred thousandths.
   const auto part = [](Colour colour, unsigned which) {
     return "\\c" + std::to_string((Part(colour, which) * 100000 + 127) / 255);
   };

@@ -1,4 +1,4 @@
-// Numbers of the colour table for colours that a save writes.
+// Assigns numbers in the colour table to the colours that a save writes.
 #pragma once
 
 #include <cstdint>
@@ -10,19 +10,19 @@
 
 namespace quill::rtf {
 
-// New colours go behind the highest number that any word of the file uses, not just behind the
-// last entry: a number past the table's end is black until somebody appends an entry there.
+// New colours go after the highest number that the file uses, not just after the last entry: a
+// number past the table's end means black until an entry is appended there.
 class ColourNumbers {
  public:
   // The table must outlive the numbers.
   explicit ColourNumbers(const ColourTable& table);
 
-  // The number of a colour, new where the table lacks it. Black is the automatic colour where the
-  // table has one.
+  // The number of a colour, a new one if the table lacks it. Black is the automatic colour if the
+  // table has that.
   std::uint32_t NumberOf(Colour colour);
 
   bool HasNew() const { return !added_.empty(); }
-  // What to insert at the table's end for the new colours; a whole table where the file has none.
+  // What to insert at the table's end for the new colours; a whole table if the file has none.
   std::string TableInsertion() const;
   // The same for the table that mirrors it.
   std::string MirrorInsertion() const;

@@ -9,7 +9,7 @@ namespace quill::rtf {
 namespace {
 
 void AppendUnit(std::string& to, std::uint32_t unit, std::uint32_t fallback) {
-  // The number is a signed one of sixteen bits.
+  // The number is a signed 16-bit integer.
   const int number = unit > 0x7FFF ? static_cast<int>(unit) - 0x10000 : static_cast<int>(unit);
   to += "\\u" + std::to_string(number);
   to.append(fallback > 0 ? std::string(fallback, '?') : " ");
@@ -56,7 +56,7 @@ std::string WordsBetween(const Attributes& from, const Attributes& to, bool righ
   if (from.colour != to.colour) words += "\\cf" + std::to_string(colours.NumberOf(to.colour));
   if (from.bold != to.bold) {
     words += to.bold ? "\\b" : "\\b0";
-    // Other programs take the weight of a right-to-left run from here.
+    // Other programs take the weight of right-to-left runs from this.
     if (rightToLeft) words += to.bold ? "\\ab" : "\\ab0";
   }
   if (from.underline != to.underline) words += to.underline ? "\\ul" : "\\ulnone";

@@ -1,4 +1,4 @@
-// Characters and attributes to rich text.
+// Spells characters and attributes as rich text.
 #pragma once
 
 #include <cstdint>
@@ -9,17 +9,16 @@
 
 namespace quill::rtf {
 
-// Appends one character, written so that it stands alone: no blank or letter behind it belongs to
-// it. `fallback` is how many characters readers without Unicode expect behind a \u; on a symbol
-// font literal letters would be symbols, so that every character is a \u.
+// Appends one character such that no blank or letter after it is read as part of it. `fallback` is
+// how many characters must stand in for a \u. In a symbol font literal letters would be symbols, so
+// every character is written as \u.
 void AppendCharacter(std::string& to, char32_t character, std::uint32_t fallback, bool symbolFont);
 
-// Attributes as a file can hold them: a raised position in whole half-points, never rounded away.
+// Attributes as a file can hold them: positions in half-points, never rounded to zero.
 Attributes InFile(Attributes attributes);
 
-// The words that lead from one look to another, with the blank that ends the last of them; nothing
-// where the two are the same. A colour that the table lacks gets a number. `to` must be as a file
-// can hold it.
+// The words that change one look into another, with a final blank; empty if they are the same.
+// Colours that the table lacks get a number. `to` must be as a file can hold it.
 std::string WordsBetween(const Attributes& from, const Attributes& to, bool rightToLeft,
                          ColourNumbers& colours);
 

@@ -2,8 +2,8 @@
 
 namespace quill::rtf {
 
-// None of its characters stands in front of `from`. One typed at an opening brace stands in front
-// of the group, one typed at a closing brace inside.
+// Requires that none of its characters is before `from`. A character typed at the opening brace is
+// outside of the group, one typed at the closing brace inside.
 MarkTree MarkTrees::TreeAt(std::size_t group, std::size_t from) const {
   const Offset close = groups_[group].close;
   const std::size_t begin = origins_.FirstBehind(groups_[group].open, from);

@@ -1,4 +1,4 @@
-// The marks of a file, each with those nested in it, and which characters stand in them.
+// The mark groups of a file with those nested in them, and which characters they hold.
 #pragma once
 
 #include <algorithm>
@@ -15,14 +15,14 @@ struct Span {
   std::size_t end = 0;
 };
 
-// A group with those directly and indirectly in it: a range of the source's list.
+// A group and all groups nested in it: a range of the source's list.
 struct MarkTree {
   std::size_t first = 0;
   std::size_t end = 0;
   Span inside;  // its characters
 };
 
-// Asks about one document, which must outlive it.
+// The document must outlive it.
 class MarkTrees {
  public:
   explicit MarkTrees(const Document& document)
@@ -32,9 +32,8 @@ class MarkTrees {
   template <class Wanted>
   std::vector<MarkTree> Holding(Wanted wanted) const;
 
-  // Visits the braces of a tree's groups (Open and Close, with the group's index) and the
-  // characters between them (Character, with the index of the character and of the group directly
-  // around it) in the order of the file.
+  // Visits, in file order, the braces of a tree's groups (Open and Close, with the group's index)
+  // and the characters between them (Character, with its index and that of the innermost group).
   template <class Visitor>
   void Walk(const MarkTree& tree, Visitor& visitor) const;
 

@@ -16,11 +16,11 @@ std::size_t BackslashesAtEnd(std::string_view bytes) {
   return last == std::string_view::npos ? bytes.size() : bytes.size() - 1 - last;
 }
 
-// How the bytes end: in the letters of a control word, in its number, or otherwise.
+// How bytes end: in the letters of a control word, in its number, or otherwise.
 enum class Ending { kOther, kLetters, kNumber };
 
 Ending EndingOf(std::string_view bytes) {
-  // No word is longer; a long run of letters is text.
+  // No control word is longer; a longer run of letters is text.
   constexpr std::size_t kLongest = 300;
   const std::string_view tail = bytes.substr(bytes.size() - std::min(bytes.size(), kLongest));
   std::size_t at = tail.size();
@@ -83,8 +83,8 @@ void PatchedCopy::Append(std::string_view own) {
   seam_ = true;
 }
 
-// What must stand between the copy so far and a byte that comes next, so that these are not read
-// together: a control word is ended by a blank.
+// What to put between the copy so far and the next byte, so that the byte is not read as part of a
+// control word.
 std::string_view PatchedCopy::Separator(char next) const {
   if (!IsLetter(next) && !IsDigit(next) && next != '-' && next != ' ') return "";
   switch (EndingOf(std::string_view(out_).substr(textEnd_))) {

@@ -1,4 +1,4 @@
-// A copy of a source with stretches left out and bytes put in.
+// Copies a source with bytes left out and put in.
 #pragma once
 
 #include <string>
@@ -9,29 +9,29 @@
 
 namespace quill::rtf {
 
-// Bytes of the source that a save replaces, wherever the copy passes them.
+// A replacement that applies when the copy passes it.
 struct Patch {
   Offset begin = 0;
   Offset end = 0;
   std::string bytes;
-  bool behindText = false;  // what stands in front is no control word, whatever it looks like
+  bool behindText = false;  // what precedes it is no control word, even if it looks like one
 };
 
-// Copies from front to back. Where bytes come to stand side by side that did not in the source, a
-// control word keeps its end: it gets the blank that it needs.
+// Copies front to back. Where a control word gets a new neighbour that would be read as part of it,
+// it gets the blank that ends it.
 class PatchedCopy {
  public:
-  // The patches must be in order and not overlap. The source must outlive the copy.
+  // Patches must be in order and must not overlap. The source must outlive the copy.
   PatchedCopy(std::string_view source, std::vector<Patch> patches);
 
   Offset At() const { return at_; }
-  // Whether the source holds nothing but line ends between here and `to`, with no patch among it.
+  // Whether there are only line ends, and no patch, between here and `to`.
   bool OnlyLineEndsUpTo(Offset to) const;
   void CopyTo(Offset to);
-  // Goes on behind bytes of the source without copying them.
+  // Skips bytes of the source.
   void SkipTo(Offset to);
   void Append(std::string_view own);
-  // What stands last in the copy is text, even if it looks like a control word.
+  // The copy so far ends in text, even if that looks like a control word.
   void EndText() { textEnd_ = out_.size(); }
   std::string Take() { return std::move(out_); }
 
@@ -43,8 +43,8 @@ class PatchedCopy {
   std::vector<Patch> patches_;
   std::size_t nextPatch_ = 0;
   Offset at_ = 0;
-  bool seam_ = false;        // what was appended last is not what stands in front of `at_`
-  std::size_t textEnd_ = 0;  // no control word of the copy begins in front of this
+  bool seam_ = false;        // the copy does not end in what precedes `at_`
+  std::size_t textEnd_ = 0;  // the copy's last control word begins at or after this
   std::string out_;
 };
 

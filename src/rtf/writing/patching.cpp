@@ -1,9 +1,8 @@
-// The source is copied. A stretch of characters whose attributes are not those of its place is put
-// into a group of its own, which sets the attributes and ends in front of whatever else the file
-// says there: nothing outside can come undone at its brace. Groups that an earlier save made in
-// this way are taken apart again where their characters changed, and stay only where they still
-// save words: so a file does not grow by marking and unmarking. They are told by their words: any
-// other group is its author's, and stays.
+// Copies the source. A run of characters whose attributes differ from those of its place is wrapped
+// in a group that sets them and ends before anything but characters, so that its closing brace
+// undoes nothing else. Groups that an earlier save made are taken apart where their characters
+// changed, and kept only if they still serve: a file does not grow by marking and unmarking. They
+// are recognised by their words; any other group is the author's, and stays.
 #include "rtf/writing/patching.h"
 
 #include <algorithm>
@@ -43,8 +42,8 @@ class Patcher {
   void CloseWrap();
   bool BreaksOffHere() const;
   void CopyInFront(std::size_t character, Offset to);
-  // Whether the bytes of a character are taken as they are, so that no control word reaches over
-  // their end. The last of them may look like a backslash.
+  // Whether a character was read from literal bytes. No control word extends past those, even if
+  // the last one looks like a backslash.
   bool EndsInText(std::size_t character) const;
   void EndCharacter(std::size_t character);
 
@@ -58,7 +57,7 @@ class Patcher {
   ColourNumbers colours_;
   PatchedCopy out_;
 
-  // The group that is being written around a stretch of characters.
+  // The group that is being written around a run of characters.
   struct Wrap {
     bool open = false;
     Attributes inForce;
@@ -85,7 +84,7 @@ std::string Patcher::Write() {
 
   const std::vector<MarkTree> touched =
       trees_.Holding([&](std::size_t character) { return targets_.IsChanged(character); });
-  // Every colour has its number before the table is copied.
+  // Number all colours before the table is copied.
   targets_.NumberColours(touched, colours_);
   out_ = PatchedCopy(source_.bytes, Patches());
   std::size_t character = 0;
@@ -126,8 +125,7 @@ std::vector<Patch> Patcher::Patches() const {
   return patches;
 }
 
-// Writes the groups of a tree anew. Where one goes, what stood in it is written against what is in
-// force outside.
+// Writes a tree's groups. If one is dropped, its content is written against the attributes outside.
 struct Patcher::TreeWriter {
   Patcher& patcher;
   const MarkTree& tree;
@@ -150,12 +148,12 @@ struct Patcher::TreeWriter {
   }
   void Close(std::size_t index) {
     const Offset brace = patcher.source_.groups[index].close;
-    // Where the file breaks off, there is none.
+    // If the file breaks off, there is no brace.
     Pass(brace, std::min(brace + 1, static_cast<Offset>(patcher.source_.bytes.size())));
     kept.pop_back();
     inForce.pop_back();
   }
-  // The stretch from a brace on is copied only where its group is kept.
+  // Copies the bytes from a brace on only if the group is kept.
   void Pass(Offset brace, Offset end) {
     patcher.CloseWrap();
     patcher.CopyInFront(next, brace);
@@ -178,8 +176,7 @@ void Patcher::EmitTree(const MarkTree& tree) {
   trees_.Walk(tree, writer);
 }
 
-// Writes the characters up to an index that stand in no tree, as far as they are not copied as they
-// are.
+// Writes characters outside of trees; unchanged ones are copied along with the source.
 void Patcher::EmitLoose(std::size_t begin, std::size_t end) {
   for (std::size_t i = begin; i < end; ++i) {
     if (!targets_.IsChanged(i) && !origins_.IsTyped(i)) continue;
@@ -221,13 +218,13 @@ void Patcher::CloseWrap() {
   if (!BreaksOffHere()) out_.Append("}");
 }
 
-// Whether the source breaks off behind the character that was written last: its end ends whatever
-// group is open. In a picture, a brace would become part of that at every save.
+// Whether the source breaks off after the last character written; its end then closes all groups. A
+// brace would become part of a truncated picture, one more at every save.
 bool Patcher::BreaksOffHere() const {
   return out_.At() == source_.bytes.size() && !origins_.IsTyped(origins_.size() - 1);
 }
 
-// Copies what stands in front of a character up to an offset.
+// Copies what precedes a character, up to an offset.
 void Patcher::CopyInFront(std::size_t character, Offset to) {
   if (character > 0) {
     const Offset end = origins_[character - 1].end();

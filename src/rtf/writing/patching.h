@@ -1,4 +1,4 @@
-// A document to the bytes of its source, changed where the document was.
+// Writes a document as a patched copy of its source.
 #pragma once
 
 #include <string>
@@ -7,10 +7,8 @@
 
 namespace quill::rtf {
 
-// The source of the document with what was changed since it was read, and nothing else: colour,
-// bold, underline and raised position of characters, typed and deleted characters, and new
-// entries of the colour table. An unchanged document gives the bytes that were read. Where the
-// source is not well-formed, the bytes may be read as another text.
+// What Write in writer.h returns for a sound source. If the source is not well-formed, the bytes
+// may read back as another text.
 std::string Patched(const Document& document);
 
 }  // namespace quill::rtf

@@ -1,4 +1,4 @@
-// Plain text files as rich text.
+// Converts plain text to rich text.
 #pragma once
 
 #include <optional>
@@ -7,9 +7,8 @@
 
 namespace quill::rtf {
 
-// Plain text as rich text: UTF-16 with a byte order mark, UTF-8 with or without one, or
-// Windows-1252. CR LF, CR and LF each end a paragraph. Nothing where the bytes are no text: where
-// they hold a NUL.
+// Accepts UTF-16 with a byte order mark, UTF-8 with or without one, and Windows-1252. CR LF, CR and
+// LF each end a paragraph. Returns nothing if the text holds a NUL.
 std::optional<std::string> FromPlainText(std::string_view bytes);
 
 }  // namespace quill::rtf

@@ -1,5 +1,5 @@
-// Every stretch of characters that look the same stands in a group that says all of its look, so
-// that no group depends on another.
+// Every run of characters that look the same gets a group with its whole look, so that no group
+// depends on another.
 #include "rtf/writing/rewriting.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ std::string Word(std::string_view name, int number) {
 
 std::string FontTableOf(const std::vector<FontFace>& faces) {
   std::string table = "{\\fonttbl";
-  // Face 0 is that of every font that the table lacks.
+  // Face 0 stands for all fonts that the table lacks.
   for (std::size_t face = 1; face < faces.size(); ++face) {
     table += "{" + Word("f", static_cast<int>(face)) + (faces[face].symbol ? "\\fcharset2 " : " ");
     for (const char32_t c : FromUtf8(faces[face].name)) {
@@ -69,13 +69,13 @@ std::string CharacterWords(const CharacterLook& look, ColourNumbers& colours) {
     words +=
         Word("highlight", static_cast<int>(colours.NumberOf(static_cast<Colour>(look.background))));
   } else if (look.background == 0) {
-    // Number 0 stands for none; one that the table lacks is black.
+    // Number 0 means none; one past the table's end means black.
     words += Word("highlight", kHighestColour + 1);
   }
   return words;
 }
 
-// Whether the bytes are groups, each of them whole: what they hold can stand anywhere.
+// Whether the bytes are complete groups, which can be put anywhere.
 bool AreWholeGroups(std::string_view bytes) {
   if (!bytes.starts_with('{')) return false;
   std::size_t depth = 0;

@@ -1,4 +1,4 @@
-// A document to a rich text file of our own making.
+// Writes a document as a new rich text file.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace quill::rtf {
 
-// The text with the look of its characters and paragraphs, its pictures and its objects; nothing
-// else that the source says. What the table of fonts said is put in the form that programs write.
+// Keeps the text, the look of characters and paragraphs, pictures, objects and the names of fonts,
+// and nothing else of the source.
 std::string Rewritten(const Document& document);
 
 }  // namespace quill::rtf

@@ -32,7 +32,7 @@ struct SavedGroups::Collector {
     if (around.empty()) return;
     const GroupNote& note = notes[index - tree.first];
     GroupNote& outer = notes[around.back() - tree.first];
-    // No save puts a group of ours around one of the author's.
+    // No save wraps an author's group.
     outer.ours = outer.ours && note.ours;
     for (const FormatId id : note.formats) Add(outer, id);
   }
@@ -58,8 +58,8 @@ bool SavedGroups::IsKept(const MarkGroup& group, const GroupNote& note, const At
          (IsWanted(note, Changed(outside, group.words)) && AreWords(group, outside, rightToLeft));
 }
 
-// Whether one of the characters is to look as the group says, or they part from it in different
-// ways, and may come back to it.
+// Whether some character is to look as the group says, or the characters are to look different from
+// each other; then later changes may need the group again.
 bool SavedGroups::IsWanted(const GroupNote& note, const Attributes& inside) const {
   return std::any_of(note.formats.begin(), note.formats.end(), [&](FormatId id) {
     const Attributes& target = targets_.OfFormat(id);
@@ -67,7 +67,7 @@ bool SavedGroups::IsWanted(const GroupNote& note, const Attributes& inside) cons
   });
 }
 
-// Whether the words of a group are those that a save would write there.
+// Whether a group has the very words that a save would write there.
 bool SavedGroups::AreWords(const MarkGroup& group, const Attributes& outside, bool rightToLeft) {
   const std::string_view words = std::string_view(document_.GetSource().bytes)
                                      .substr(group.open + 1, group.content - group.open - 1);

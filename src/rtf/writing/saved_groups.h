@@ -1,4 +1,4 @@
-// Tells the groups that an earlier save made from an author's, and whether they still serve.
+// Tells groups that an earlier save made from an author's, and whether they are still needed.
 #pragma once
 
 #include <vector>
@@ -16,15 +16,15 @@ struct GroupNote {
   bool ours = true;               // a save made it
 };
 
-// Asks about one document, which must outlive it, as must trees and targets.
+// Document, trees and targets must outlive it.
 class SavedGroups {
  public:
   SavedGroups(const Document& document, const MarkTrees& trees, const Targets& targets);
 
-  // Of each group of a tree, in order.
+  // A note for each group of a tree, in order.
   std::vector<GroupNote> NotesOf(const MarkTree& tree);
-  // Whether a group stays, where `outside` is in force in front of it: an author's always does, one
-  // of ours where its words are still those that are needed, and serve the characters in it.
+  // Whether to keep a group in front of which `outside` is in force. An author's group always
+  // stays; one of ours stays if some character needs it and its words are still right.
   bool IsKept(const MarkGroup& group, const GroupNote& note, const Attributes& outside,
               bool rightToLeft);
 

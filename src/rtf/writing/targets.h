@@ -1,4 +1,4 @@
-// How the characters of a document are to look in its file.
+// The attributes that each character is to have in the file.
 #pragma once
 
 #include <cstddef>
@@ -10,19 +10,19 @@
 
 namespace quill::rtf {
 
-// Asks about one document, which must outlive it.
+// The document must outlive it.
 class Targets {
  public:
   explicit Targets(const Document& document);
 
-  // The attributes of a character, or of those with a format, as a file can hold them.
+  // Of a character, or of a format, as a file can hold them.
   const Attributes& Of(std::size_t character) const { return targets_[ids_[character]]; }
   const Attributes& OfFormat(FormatId id) const { return targets_[id]; }
-  // Whether they differ from what the character's place in the source has.
+  // Whether they differ from those in force at the character's place in the source.
   bool IsChanged(std::size_t character) const { return changed_[ids_[character]] != 0; }
   bool IsAnyChanged() const;
-  // Numbers every colour that may have to be written: those of changed characters, and of all that
-  // stand in the trees.
+  // Numbers all colours that may be written: those of changed characters and of all characters in
+  // the trees.
   void NumberColours(const std::vector<MarkTree>& trees, ColourNumbers& colours) const;
 
  private:
