@@ -6,6 +6,7 @@
 #include <string>
 
 #include "rtf/reader.h"
+#include "rtf/table.h"
 
 namespace quill::rtf {
 namespace {
@@ -56,19 +57,33 @@ TEST(Decoration, ALabelStaysWithItsParagraph) {
   EXPECT_EQ(LabelOf(*Read("plain"), 0).text, U"");
 }
 
-TEST(Decoration, CellEdges) {
-  const struct {
-    const char* body;
-    std::vector<Twips> edges;
-  } kCases[] = {
-      {R"(a\par\trowd\trgaph108\cellx2000\clbrdrt\cellx5600\pard\intbl b\cell c\cell\row)",
-       {2000, 5600}},
-      {R"(a\par\trowd\cellx1\trowd\cellx2000\cellx900\intbl b\cell\row)", {2000, 2000}},
-      {R"(a\par\intbl b\cell\row)", {}},
-  };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(CellEdges(Load(test.body), 2), test.edges) << test.body;
-  }
+TEST(Decoration, RowsOfTables) {
+  const Document document = Load(
+      R"(\\trowd a\par\trowd\trleft-100\trbrdrt\brdrs\brdrw30\trbrdrv\brdrdash\clbrdrl\brdrnone)"
+      R"(\clcbpat1\cellx2000 \clvmrg\clbrdrr\brdrs\brdrcf1\cellx900\intbl b\cell c\cell\row)"
+      R"(\trowd\rtlrow\trqc\clmrg\clshdng5000\cellx10\pard\cellx9\intbl d\cell\row\trowdx)");
+  const std::vector<Offset> places = FindRowDefinitions(document.GetSource().bytes);
+  ASSERT_EQ(places.size(), 2U);
+  const RowDefinition row = RowDefinitionAt(document.GetSource(), places[0]);
+  constexpr Colour kOwn = RGB(1, 2, 3);
+  const Border none{Border::kNone};
+  EXPECT_EQ(row.left, -100);
+  ASSERT_EQ(row.cells.size(), 2U);
+  EXPECT_EQ(row.cells[0].edge, 2000);
+  EXPECT_EQ(row.cells[1].edge, 2000) << "not to the left of the cell before";
+  EXPECT_EQ(row.cells[0].shading, kOwn);
+  EXPECT_TRUE(row.cells[1].joinsAbove);
+  EXPECT_EQ(row.cells[0].borders.top, (Border{Border::kLine, 30, 0})) << "that of the row";
+  EXPECT_EQ(row.cells[0].borders.left, none);
+  EXPECT_EQ(row.cells[0].borders.right.kind, Border::kLine) << "between cells";
+  EXPECT_EQ(row.cells[0].borders.bottom, none);
+  EXPECT_EQ(row.cells[1].borders.right, (Border{Border::kLine, 0, kOwn}));
+  const RowDefinition second = RowDefinitionAt(document.GetSource(), places[1]);
+  EXPECT_TRUE(second.rightToLeft);
+  EXPECT_EQ(second.alignment, Alignment::kCentre);
+  ASSERT_EQ(second.cells.size(), 1U);
+  EXPECT_EQ(second.cells[0].shading, RGB(127, 127, 127));
+  EXPECT_EQ(second.cells[0].borders.top, Border{}) << "nothing is told of borders";
 }
 
 }  // namespace

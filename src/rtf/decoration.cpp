@@ -15,7 +15,6 @@ constexpr std::size_t kMostHeader = std::size_t{1} << 17U;
 constexpr std::size_t kMostInFront = std::size_t{1} << 17U;
 constexpr std::size_t kMostLabelBytes = 4096;
 constexpr std::size_t kMostLabel = 32;
-constexpr std::size_t kMostCells = 64;
 
 // The bytes between the character before a paragraph and its first one.
 std::string_view InFrontOf(const Document& document, Position paragraph) {
@@ -88,21 +87,6 @@ Label LabelOf(const Document& document, Position paragraph) {
   const std::size_t end = text.find_last_not_of(kBlanks) + 1;
   const std::uint16_t font = read->FormatAt(static_cast<Position>(begin)).look.font;
   return {text.substr(begin, std::min(end - begin, kMostLabel)), read->Fonts()[font].name};
-}
-
-std::vector<Twips> CellEdges(const Document& document, Position paragraph) {
-  std::string_view bytes = InFrontOf(document, paragraph);
-  const std::size_t row = bytes.rfind("\\trowd");
-  if (row == std::string_view::npos) return {};
-  bytes.remove_prefix(row);
-  std::vector<Twips> edges;
-  Lexer lexer(bytes);
-  for (Token token = lexer.Next(); token.kind != Token::kEnd; token = lexer.Next()) {
-    if (token.kind != Token::kWord || token.word != "cellx") continue;
-    if (edges.size() == kMostCells) break;
-    edges.push_back(std::max(token.number, edges.empty() ? 0 : edges.back()));
-  }
-  return edges;
 }
 
 }  // namespace quill::rtf

@@ -1,9 +1,8 @@
-// What stands around paragraphs without being text: the labels of lists and the cells of tables.
-// Read from the bytes in front of a paragraph when it is asked for; the document keeps none of it.
+// What stands around paragraphs without being text: the labels of lists. Read from the bytes in
+// front of a paragraph when it is asked for; the document keeps none of it.
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "text/document.h"
 
@@ -21,10 +20,5 @@ struct Label {
 };
 // It reads the tables of the file anew, which takes a thousand times longer.
 Label LabelOf(const Document& document, Position paragraph);
-
-// The right edges of a table row's cells, counted from the text's left margin, as far as they are
-// told in front of that paragraph, at most 64. Empty where none are: then those of the row before
-// hold.
-std::vector<Twips> CellEdges(const Document& document, Position paragraph);
 
 }  // namespace quill::rtf

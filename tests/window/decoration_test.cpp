@@ -46,19 +46,6 @@ TEST_F(DecorationTest, LabelsStandInFrontOfTheirParagraphs) {
   ExpectShown(window, form);
 }
 
-TEST_F(DecorationTest, CellsStandUnderEachOther) {
-  OpenText(R"(\trowd\cellx1500\cellx4500\intbl a\cell bb\cell\row )"
-           R"(\intbl long\cell b\par and\cell\row\intbl c\cell\qr d\cell\row\pard behind)");
-  const std::u32string& text = form.RichTextBox1.Text();
-  EXPECT_EQ(text, U"a\tbb\t\nlong\tb\nand\t\nc\td\t\nbehind");
-  EXPECT_NEAR(CaretOnPage(2), 100 + 7, 2);
-  EXPECT_EQ(CaretAt(11).left(), CaretAt(2).left());
-  EXPECT_EQ(CaretAt(13).left(), CaretAt(2).left()) << "the second paragraph of a cell";
-  EXPECT_EQ(CaretAt(20).left(), CaretAt(2).left()) << "a cell that is set right";
-  EXPECT_EQ(CaretOnPage(23), 0) << "behind the table";
-  ExpectShown(window, form);
-}
-
 TEST_F(DecorationTest, LinesPartRowsAndCells) {
   OpenText(R"(\trowd\cellx1500\cellx4500\intbl a\cell bb\cell\row )"
            R"(\intbl longer than the column\cell b\cell\row\pard behind)");

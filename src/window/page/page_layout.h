@@ -5,13 +5,15 @@
 #pragma once
 
 #include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
 #include <QTextCharFormat>
+#include <QTextLayout>
 #include <functional>
+#include <optional>
 
 #include "window/page/heights.h"
 #include "window/page/paragraph.h"
-
-class QTextBlock;
+#include "window/page/row_layout.h"
 
 namespace quill {
 
@@ -28,6 +30,9 @@ class PageLayout final : public QAbstractTextDocumentLayout {
   using Corrected = std::function<void(double top, int difference)>;
   void TellCorrections(Corrected corrected) { corrected_ = std::move(corrected); }
 
+  // Rows of tables come from there; without it they are paragraphs like any other.
+  void AskRows(TellRow rows) { rows_ = std::move(rows); }
+
   const Page& ThePage() const { return page_; }
   // Learns from the text as it is now which typeface the length of its lines goes by.
   void MeasureLetters();
@@ -41,8 +46,9 @@ class PageLayout final : public QAbstractTextDocumentLayout {
   // Tells the view what is known of the page's size by now.
   void AnnounceSize();
 
+  // Of a row of a table, the first of its paragraphs.
   QTextBlock ParagraphAt(double height) const;
-  // With the space above it.
+  // With the space above it. Paragraphs of one row have the same.
   double TopOf(const QTextBlock& paragraph) const;
   struct Line {
     int position = 0;  // of its first character
@@ -51,6 +57,9 @@ class PageLayout final : public QAbstractTextDocumentLayout {
   Line LineAt(double height) const;
   // The line that holds a position.
   Line LineOf(int position) const;
+  // The place on the next line below a position, or above: in a row of a table that of the same
+  // cell, or else of the column that lies under `x`. -1 where the text ends.
+  int PlaceBeside(int position, double x, bool below) const;
 
   void draw(QPainter* painter, const PaintContext& context) override;
   int hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) const override;
@@ -69,15 +78,35 @@ class PageLayout final : public QAbstractTextDocumentLayout {
 
   // Returns whether the height was other than guessed.
   bool EnsureLines(const QTextBlock& block) const;
+  // Both return by how much the height was other than guessed.
+  int BreakParagraph(const QTextBlock& block) const;
+  int BreakTableRow(const QTextBlock& block) const;
+  int SetHeight(const QTextBlock& block, int height) const;
   // Where its lines begin.
   double TopOfLines(const QTextBlock& block) const;
   void Guess(const QTextBlock& first, int count, std::size_t before);
+  void ForgetLines(QTextBlock first, int count);
+  // A line and the paragraph that it belongs to.
+  struct Hit {
+    QTextBlock block;
+    QTextLine line;
+  };
+  // The one nearest to a point.
+  Hit HitAt(const QPointF& point) const;
+  Hit HitOn(const QTextBlock& firstOfRow, const CellTextLine& line) const;
+  static int PlaceOn(const Hit& hit, double x);
+  // The next one in the same paragraph, or in the same cell.
+  std::optional<Hit> NextLine(const Hit& hit, bool below) const;
+  void PaintRow(QPainter& painter, const QTextBlock& first, const RowOnPage& row) const;
+  static QList<QTextLayout::FormatRange> Selected(const QTextBlock& block,
+                                                  const Selection& selection);
   void DrawParagraph(QPainter& painter, const PaintContext& context, const QTextBlock& block);
 
   Page page_;
   QTextCharFormat letters_;
   mutable Heights heights_;  // empty until the page has a width
   Corrected corrected_;
+  TellRow rows_;
   QSizeF announced_;
   double leastHeight_ = 0;
 };

@@ -23,15 +23,6 @@ QFontMetricsF MetricsOf(const QTextCharFormat& format, const QTextDocument& show
   return device != nullptr ? QFontMetricsF(font, device) : QFontMetricsF(font);
 }
 
-QTextOption OptionOf(const QTextBlock& block) {
-  const QTextBlockFormat format = block.blockFormat();
-  QTextOption option = block.document()->defaultTextOption();
-  option.setTextDirection(block.textDirection());
-  option.setAlignment(QStyle::visualAlignment(block.textDirection(), format.alignment()));
-  option.setTabs(format.tabPositions());
-  return option;
-}
-
 int WholePixels(double length) { return static_cast<int>(std::lround(length)); }
 
 }  // namespace
@@ -46,13 +37,21 @@ Page PageIn(double width, const QTextDocument& shown, const QTextCharFormat& let
   return {margin + std::floor((room - measure) / 2), measure, margin, scale};
 }
 
+QTextOption OptionOf(const QTextBlock& block, Qt::Alignment alignment) {
+  QTextOption option = block.document()->defaultTextOption();
+  option.setTextDirection(block.textDirection());
+  option.setAlignment(QStyle::visualAlignment(block.textDirection(), alignment));
+  option.setTabs(block.blockFormat().tabPositions());
+  return option;
+}
+
 int BreakIntoLines(const QTextBlock& block, const Page& page) {
   const QTextBlockFormat format = block.blockFormat();
   const bool rightToLeft = block.textDirection() == Qt::RightToLeft;
   const double left = format.leftMargin() * page.scale;
   const double width = page.width - left - format.rightMargin() * page.scale;
   QTextLayout& layout = *block.layout();
-  layout.setTextOption(OptionOf(block));
+  layout.setTextOption(OptionOf(block, format.alignment()));
   layout.beginLayout();
   int top = 0;
   double height = 0;

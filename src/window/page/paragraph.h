@@ -8,6 +8,7 @@ class QTextBlock;
 class QTextDocument;
 class QTextLayout;
 class QTextLine;
+class QTextOption;
 
 namespace quill {
 
@@ -24,6 +25,9 @@ struct Page {
 // The page in a view of that width: no wider than a reader's eye finds the next line, and in the
 // middle. `letters` is the text's usual typeface.
 Page PageIn(double width, const QTextDocument& shown, const QTextCharFormat& letters);
+
+// How the toolkit is to break a paragraph into lines, which stand in them as `alignment` says.
+QTextOption OptionOf(const QTextBlock& block, Qt::Alignment alignment);
 
 // Breaks a paragraph into lines. Returns their height, a whole number of pixels.
 int BreakIntoLines(const QTextBlock& block, const Page& page);

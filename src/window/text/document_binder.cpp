@@ -109,9 +109,8 @@ FormatId DocumentBinder::ParagraphFormat(Position position) const {
   return text_.Doc().FormatIds()[std::min(end, text.size() - 1)];
 }
 
-QTextBlockFormat DocumentBinder::ParagraphStyle(Position paragraph,
-                                                const QTextBlockFormat& before) {
-  return WithRoom(styles_.Paragraph(ParagraphFormat(paragraph)), text_.Doc(), paragraph, before);
+QTextBlockFormat DocumentBinder::StyleOf(Position paragraph) {
+  return StyleWithRoom(styles_.Paragraph(ParagraphFormat(paragraph)), text_.Doc(), paragraph);
 }
 
 void DocumentBinder::ShowWhole() {
@@ -120,7 +119,7 @@ void DocumentBinder::ShowWhole() {
   std::unique_ptr<QTextDocument> document = EmptyDocument(view_.font());
   QTextCursor cursor(document.get());
   cursor.beginEditBlock();
-  cursor.setBlockFormat(ParagraphStyle(0, {}));
+  cursor.setBlockFormat(StyleOf(0));
   cursor.setBlockCharFormat(styles_.Character(ParagraphFormat(0)));
   Insert(cursor, {0, text_.Length()});
   cursor.endEditBlock();
@@ -143,8 +142,7 @@ void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
       if (end == shown.size()) break;
       line = end + 1;
       const Position next = piece.range.begin + static_cast<Position>(line);
-      cursor.insertBlock(ParagraphStyle(next, cursor.blockFormat()),
-                         styles_.Character(ParagraphFormat(next)));
+      cursor.insertBlock(StyleOf(next), styles_.Character(ParagraphFormat(next)));
     }
   }
 }
@@ -165,8 +163,7 @@ void DocumentBinder::ShowParagraphs(Range range) {
   QTextCursor cursor = view_.CursorAt({range.begin, range.begin});
   const QTextBlock last = view_.document()->findBlock(view_.Positions().ToWidget(range.end)).next();
   for (QTextBlock block = cursor.block(); block.isValid() && block != last; block = block.next()) {
-    const QTextBlockFormat style =
-        ParagraphStyle(view_.Positions().ToModel(block.position()), block.previous().blockFormat());
+    const QTextBlockFormat style = StyleOf(view_.Positions().ToModel(block.position()));
     if (block.blockFormat() != style) QTextCursor(block).setBlockFormat(style);
   }
 }

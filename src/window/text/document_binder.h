@@ -40,8 +40,8 @@ class DocumentBinder final : public WidgetBinder {
   void Insert(QTextCursor& cursor, Range range);
   // The format that tells how the paragraph that holds a position looks: that of its end.
   FormatId ParagraphFormat(Position position) const;
-  // The style of the paragraph that begins there, behind one of that style.
-  QTextBlockFormat ParagraphStyle(Position paragraph, const QTextBlockFormat& before);
+  // The style of the paragraph that begins there.
+  QTextBlockFormat StyleOf(Position paragraph);
 
   TextSurface& text_;
   DocumentView& view_;

@@ -77,9 +77,8 @@ void DocumentView::paintEvent(QPaintEvent* event) {
     document()->documentLayout()->draw(&painter, context);
   }
   painter.setClipRect(clip);
-  const QTextCursor top = cursorForPosition(event->rect().topLeft());
-  decoration_.Draw(painter, top.block().previous().isValid() ? top.block().previous() : top.block(),
-                   clip.bottom());
+  const QTextBlock top = PageLayout::Of(*document()).ParagraphAt(clip.top());
+  decoration_.Draw(painter, top.previous().isValid() ? top.previous() : top, clip.bottom());
 }
 
 // Raised characters stand out of the top of their line. There the toolkit cuts off the selected
@@ -89,12 +88,12 @@ QRegion DocumentView::AboveSelection(const QRect& clip) const {
   const QTextCursor cursor = textCursor();
   if (!cursor.hasSelection()) return {};
   const QTextBlock first = document()->findBlock(cursor.selectionStart());
-  const QTextBlock last = cursorForPosition(viewport()->rect().bottomRight()).block();
-  QTextBlock block = cursorForPosition(QPoint(0, 0)).block();
-  if (block < first) block = first;
+  const PageLayout& page = PageLayout::Of(*document());
+  QTextBlock block = std::max(page.ParagraphAt(clip.top()), first);
   QRegion selected;
   QRegion above;
   for (; block.isValid() && block.position() < cursor.selectionEnd(); block = block.next()) {
+    if (page.TopOf(block) > clip.bottom() + viewport()->height()) break;
     const QTextLayout& layout = *block.layout();
     for (int i = 0; i < layout.lineCount(); ++i) {
       const QTextLine line = layout.lineAt(i);
@@ -102,13 +101,12 @@ QRegion DocumentView::AboveSelection(const QRect& clip) const {
       const int height = static_cast<int>(std::ceil(line.height()));
       // Lines far from what is painted: a paragraph may have very many.
       if (top + height < clip.top()) continue;
-      if (top - height > clip.bottom()) break;
+      if (top - height > clip.bottom() && RowOf(block) == nullptr) break;
       if (i == 0) above += QRect(clip.left(), top - height, clip.width(), height);
       const QRect part = SelectedPart(block, line, cursor);
       selected += part;
       above += part.translated(0, -part.height());
     }
-    if (block == last) break;
   }
   return (above - selected) & clip;
 }

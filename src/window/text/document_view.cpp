@@ -55,7 +55,8 @@ DocumentView::DocumentView(QWidget& parent, TextSurface& text, Actions& actions)
       text_(text),
       actions_(actions),
       pictures_(text.Doc(), positions_),
-      decoration_(text.Doc(), positions_) {
+      decoration_(text.Doc(), positions_),
+      rows_(text.Doc(), positions_) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -71,6 +72,8 @@ void DocumentView::Exchange(std::unique_ptr<QTextDocument> document) {
   PageLayout& page = PageLayout::Of(*document);
   pictures_.Serve(*document);
   decoration_.Clear();
+  rows_.Clear();
+  page.AskRows([this](const QTextBlock& paragraph) { return rows_.Tell(paragraph); });
   zoom_.ApplyTo(page);
   page.MeasureLetters();
   place_.Stop();
@@ -166,7 +169,7 @@ void DocumentView::mouseReleaseEvent(QMouseEvent* event) {
 
 void DocumentView::keyPressEvent(QKeyEvent* event) {
   if (IsMovement(event)) {
-    QTextEdit::keyPressEvent(event);
+    if (!MoveByLine(event)) QTextEdit::keyPressEvent(event);
     ReportSelection();
   } else if (EditKey(event) || ZoomKey(*event)) {
     event->accept();
@@ -180,6 +183,26 @@ void DocumentView::keyPressEvent(QKeyEvent* event) {
 bool DocumentView::IsMovement(QKeyEvent* event) const {
   return std::any_of(std::begin(kMovements), std::end(kMovements),
                      [&](QKeySequence::StandardKey key) { return event->matches(key); });
+}
+
+bool DocumentView::MoveByLine(QKeyEvent* event) {
+  const auto matches = [event](QKeySequence::StandardKey move, QKeySequence::StandardKey select) {
+    return event->matches(move) || event->matches(select);
+  };
+  const bool down = matches(QKeySequence::MoveToNextLine, QKeySequence::SelectNextLine);
+  if (!down && !matches(QKeySequence::MoveToPreviousLine, QKeySequence::SelectPreviousLine)) {
+    return false;
+  }
+  QTextCursor cursor = textCursor();
+  const int x = cursor.verticalMovementX();
+  const int place = PageLayout::Of(*document()).PlaceBeside(cursor.position(), x, down);
+  if (place < 0) return false;
+  const bool selects = event->modifiers().testFlag(Qt::ShiftModifier);
+  cursor.setPosition(place, selects ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+  cursor.setVerticalMovementX(x);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+  return true;
 }
 
 bool DocumentView::EditKey(QKeyEvent* event) {

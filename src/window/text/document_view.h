@@ -14,6 +14,7 @@
 #include "window/shared/actions.h"
 #include "window/text/paragraph_decoration.h"
 #include "window/text/position_map.h"
+#include "window/text/table_rows.h"
 #include "window/text/text_pictures.h"
 
 class QMimeData;
@@ -83,6 +84,8 @@ class DocumentView final : public QTextEdit {
   bool ZoomKey(const QKeyEvent& event);
   bool EditKey(QKeyEvent* event);
   bool IsMovement(QKeyEvent* event) const;
+  // To the next line as the eye does, also in a table.
+  bool MoveByLine(QKeyEvent* event);
   void ShowPreedit(const QInputMethodEvent& event);
   void RestartCaret();
   QRegion AboveSelection(const QRect& clip) const;
@@ -93,6 +96,7 @@ class DocumentView final : public QTextEdit {
   PositionMap positions_;
   TextPictures pictures_;
   ParagraphDecoration decoration_;
+  TableRows rows_;
   Zoom zoom_;
   PlaceKeeper place_{*this};
   int wheel_ = 0;  // how far the wheel turned towards the next step of the zoom

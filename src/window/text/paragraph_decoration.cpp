@@ -6,8 +6,10 @@
 #include <QTextDocument>
 #include <QTextLayout>
 #include <algorithm>
+#include <utility>
 
 #include "rtf/decoration.h"
+#include "text/unicode.h"
 #include "window/page/page_layout.h"
 #include "window/page/zoom.h"
 #include "window/shared/shown.h"
@@ -16,20 +18,12 @@
 namespace quill {
 namespace {
 
-enum Property {
-  kInTable = QTextFormat::UserProperty + 1,
-  kLabelRoom,  // from where the label begins to where the text does
-};
+// From where the label begins to where the text does.
+constexpr int kLabelRoom = QTextFormat::UserProperty + 2;
 
-// In pixels of 1/96 inch, which are 15 twips.
-constexpr double kTwipsInPixel = 15;
-constexpr double kMostEdge = 2000;  // of what a file may ask for
-constexpr double kCellGap = 7;      // between a column's edge and its text
-constexpr double kRowGap = 6;       // between rows
-constexpr double kLabelGap = 3;     // behind a label
-constexpr double kLabelWidth = 7;   // of one of its characters, about
-
-const QColor kTableLine(0xc8, 0xc8, 0xc8);
+// In pixels of 1/96 inch.
+constexpr double kLabelGap = 3;    // behind a label
+constexpr double kLabelWidth = 7;  // of one of its characters, about
 
 void MakeRoomForLabel(QTextBlockFormat& style, int length) {
   // Where the first line hangs out, the label stands in that room.
@@ -39,61 +33,35 @@ void MakeRoomForLabel(QTextBlockFormat& style, int length) {
   style.setTextIndent(style.textIndent() + room);
 }
 
-// The number of the cell in which a paragraph begins. In a row too long to be counted it is 0.
-std::size_t CellOf(const Document& document, Position paragraph) {
-  constexpr Position kMostCounted = 4000;
-  std::size_t cell = 0;
-  for (Position at = paragraph; at > 0; --at) {
-    const Origin origin = document.Origins()[static_cast<std::size_t>(at - 1)];
-    if (origin.kind == Origin::kRowEnd || !document.FormatAt(at - 1).paragraph.inTable) break;
-    if (origin.kind == Origin::kCellEnd) ++cell;
-    if (paragraph - at == kMostCounted) return 0;
-  }
-  return cell;
+// The direction of a row is that of its first cell; of its end the file may say nothing.
+QTextBlockFormat RowStyle(const Document& document, Position paragraph) {
+  const std::size_t end =
+      document.Text().find_first_of(U"\t\n", static_cast<std::size_t>(paragraph));
+  QTextBlockFormat style;
+  SetInTable(style);
+  if (end == std::u32string::npos) return style;
+  const bool rightToLeft = document.FormatAt(static_cast<Position>(end)).paragraph.rightToLeft;
+  style.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+  return style;
 }
 
-// Where the text of each column but the first begins.
-std::vector<double> ColumnsOf(const Document& document, Position paragraph,
-                              const QTextBlockFormat& before) {
-  std::vector<double> columns;
-  for (const Twips edge : rtf::CellEdges(document, paragraph)) {
-    columns.push_back(std::min(edge / kTwipsInPixel, kMostEdge) + kCellGap);
-  }
-  if (!columns.empty() || !before.boolProperty(kInTable)) return columns;
-  for (const QTextOption::Tab& tab : before.tabPositions()) {
-    columns.push_back(tab.position + before.leftMargin());
-  }
-  return columns;
+bool EndsRow(const Document& document, Position paragraph) {
+  const std::size_t end = document.Text().find(kParagraphEnd, static_cast<std::size_t>(paragraph));
+  return end != std::u32string::npos && document.Origins()[end].kind == Origin::kRowEnd;
 }
-
-void MakeColumns(QTextBlockFormat& style, const std::vector<double>& columns, std::size_t cell) {
-  // A second paragraph of a cell stands under the first one.
-  const bool isInColumn = cell > 0 && cell <= columns.size();
-  style.setLeftMargin(isInColumn ? columns[cell - 1] : kCellGap);
-  style.setTextIndent(0);
-  // A cell that is centred must not take its whole row out of the columns.
-  if (!columns.empty()) style.setAlignment(Qt::AlignLeft);
-  style.setTopMargin(std::max(style.topMargin(), kRowGap));
-  style.setBottomMargin(std::max(style.bottomMargin(), kRowGap));
-  QList<QTextOption::Tab> tabs;
-  for (const double column : columns) {
-    tabs.append(QTextOption::Tab(column - style.leftMargin(), QTextOption::LeftTab));
-  }
-  style.setTabPositions(tabs);
-}
-
-bool IsInTable(const QTextBlock& block) { return block.blockFormat().boolProperty(kInTable); }
 
 }  // namespace
 
-void SetInTable(QTextBlockFormat& style) { style.setProperty(kInTable, true); }
-
-QTextBlockFormat WithRoom(QTextBlockFormat style, const Document& document, Position paragraph,
-                          const QTextBlockFormat& before) {
+QTextBlockFormat StyleWithRoom(QTextBlockFormat style, const Document& document,
+                               Position paragraph) {
   if (paragraph >= document.Length()) return style;
-  if (style.boolProperty(kInTable)) {
-    MakeColumns(style, ColumnsOf(document, paragraph, before), CellOf(document, paragraph));
-  }
+  if (IsInTable(style) || EndsRow(document, paragraph)) return RowStyle(document, paragraph);
+  return WithLabelRoom(std::move(style), document, paragraph);
+}
+
+QTextBlockFormat WithLabelRoom(QTextBlockFormat style, const Document& document,
+                               Position paragraph) {
+  if (paragraph >= document.Length()) return style;
   const int label = rtf::LabelLength(document, paragraph);
   if (label > 0) MakeRoomForLabel(style, label);
   return style;
@@ -106,24 +74,29 @@ void ParagraphDecoration::Draw(QPainter& painter, const QTextBlock& first, int b
   const QAbstractTextDocumentLayout& layout = *first.document()->documentLayout();
   for (QTextBlock block = first; block.isValid(); block = block.next()) {
     if (layout.blockBoundingRect(block).top() > bottom) break;
-    if (block.blockFormat().hasProperty(kLabelRoom)) DrawLabel(painter, block);
-    if (!IsInTable(block)) continue;
-    DrawRow(painter, block);
-    DrawCellEnds(painter, block);
+    const QTextLayout& lines = *block.layout();
+    if (lines.lineCount() == 0) continue;
+    const InRow* const row = RowOf(block);
+    if (row == nullptr) DrawLabel(painter, block, lines.lineAt(0), block.blockFormat());
+    int begin = 0;
+    for (std::size_t i = 0; row != nullptr && i < row->parts.size(); ++i) {
+      DrawLabel(painter, block, lines.lineForTextPosition(begin), row->parts[i].style);
+      begin = row->parts[i].end;
+    }
   }
 }
 
-void ParagraphDecoration::DrawLabel(QPainter& painter, const QTextBlock& block) {
+void ParagraphDecoration::DrawLabel(QPainter& painter, const QTextBlock& block,
+                                    const QTextLine& line, const QTextBlockFormat& style) {
+  if (!style.hasProperty(kLabelRoom)) return;
   const QTextLayout& layout = *block.layout();
-  if (layout.lineCount() == 0) return;
-  const QTextLine line = layout.lineAt(0);
   const QRectF text = line.naturalTextRect().translated(layout.position());
-  const QString label = LabelOf(block);
+  const QString label = LabelAt(block.position() + line.textStart());
   const double scale = ScaleOf(*block.document());
   QFont font = block.charFormat().font();
   font.setPointSizeF(font.pointSizeF() * scale);
   const QFontMetricsF metrics(font, painter.device());
-  const double room = block.blockFormat().doubleProperty(kLabelRoom) * scale;
+  const double room = style.doubleProperty(kLabelRoom) * scale;
   const double width = metrics.horizontalAdvance(label);
   const double most = room - kLabelGap * scale;
   double x = text.left() - std::max(room, width + kLabelGap * scale);
@@ -135,56 +108,11 @@ void ParagraphDecoration::DrawLabel(QPainter& painter, const QTextBlock& block) 
   painter.drawText(QPointF(x, text.top() + line.ascent()), label);
 }
 
-void ParagraphDecoration::DrawRow(QPainter& painter, const QTextBlock& block) const {
-  const Page& page = PageLayout::Of(*block.document()).ThePage();
-  const double scale = page.scale;
-  const QRectF place = block.document()->documentLayout()->blockBoundingRect(block);
-  const auto line = [&](double y) {
-    painter.fillRect(QRectF(page.left, y, page.width, 1), kTableLine);
-  };
-  if (!IsInTable(block.previous())) line(place.top() - kRowGap / 2 * scale);
-  if (EndsRow(block) || !IsInTable(block.next())) line(place.bottom() + kRowGap / 2 * scale);
-}
-
-// A long cell runs over the next column: the line tells where it ends.
-void ParagraphDecoration::DrawCellEnds(QPainter& painter, const QTextBlock& block) const {
-  const double scale = ScaleOf(*block.document());
-  const QRectF clip = painter.clipBoundingRect();
-  const QRectF row = block.document()->documentLayout()->blockBoundingRect(block);
-  const QTextLayout& layout = *block.layout();
-  const bool rightToLeft = block.blockFormat().layoutDirection() == Qt::RightToLeft;
-  const double gap = (rightToLeft ? kCellGap : -kCellGap) * scale;
-  const QString text = block.text();
-  for (int i = 0; i < layout.lineCount(); ++i) {
-    const QTextLine line = layout.lineAt(i);
-    QRectF place = line.rect().translated(layout.position());
-    if (i == 0) place.setTop(row.top() - kRowGap / 2 * scale);
-    if (i == layout.lineCount() - 1) place.setBottom(row.bottom() + kRowGap / 2 * scale);
-    if (place.bottom() < clip.top()) continue;
-    if (place.top() > clip.bottom()) break;
-    const int end = line.textStart() + line.textLength();
-    for (int at = line.textStart(); at < end && at + 1 < text.size(); ++at) {
-      if (text[at] != u'\t' || !Is(Origin::kCellEnd, block.position() + at)) continue;
-      const double x = layout.position().x() + line.cursorToX(at + 1) + gap;
-      painter.fillRect(QRectF(x, place.top(), 1, place.height()), kTableLine);
-    }
-  }
-}
-
-bool ParagraphDecoration::EndsRow(const QTextBlock& block) const {
-  return Is(Origin::kRowEnd, block.position() + block.length() - 1);
-}
-
-bool ParagraphDecoration::Is(Origin::Kind kind, int place) const {
+QString ParagraphDecoration::LabelAt(int place) {
   const Position at = positions_.ToModel(place);
-  return at < document_.Length() && document_.Origins()[static_cast<std::size_t>(at)].kind == kind;
-}
-
-QString ParagraphDecoration::LabelOf(const QTextBlock& block) {
-  const Position at = positions_.ToModel(block.position());
   if (at >= document_.Length()) return {};
-  const Offset place = document_.Origins()[static_cast<std::size_t>(at)].begin;
-  const auto [entry, isNew] = labels_.try_emplace(place);
+  const Offset offset = document_.Origins()[static_cast<std::size_t>(at)].begin;
+  const auto [entry, isNew] = labels_.try_emplace(offset);
   if (isNew) {
     rtf::Label label = rtf::LabelOf(document_, at);
     for (char32_t& c : label.text) c = ShownSymbol(c, label.font);

@@ -1,5 +1,4 @@
-// What is drawn around paragraphs without being text: labels of lists in front of them, and lines
-// between the rows and cells of tables. Columns of a table are tab stops.
+// What is drawn around paragraphs without being text of theirs: the labels of lists in front of them.
 #pragma once
 
 #include <QString>
@@ -11,16 +10,17 @@
 class QPainter;
 class QRect;
 class QTextBlock;
-class QTextDocument;
+class QTextLine;
 
 namespace quill {
 
-// The style of a paragraph, told by its first character, with room for what is drawn around it.
-// `before` is that of the paragraph before.
-QTextBlockFormat WithRoom(QTextBlockFormat style, const Document& document, Position paragraph,
-                          const QTextBlockFormat& before);
-// Marks the style of a paragraph in a table.
-void SetInTable(QTextBlockFormat& style);
+// The style of the paragraph that begins at a place of the text. In a table it is that of a
+// paragraph which the rows of the page lay out.
+QTextBlockFormat StyleWithRoom(QTextBlockFormat style, const Document& document,
+                               Position paragraph);
+// With room for the label, if it has one, of the paragraph that begins there.
+QTextBlockFormat WithLabelRoom(QTextBlockFormat style, const Document& document,
+                               Position paragraph);
 
 class ParagraphDecoration {
  public:
@@ -33,13 +33,10 @@ class ParagraphDecoration {
   void Draw(QPainter& painter, const QTextBlock& first, int bottom);
 
  private:
-  void DrawLabel(QPainter& painter, const QTextBlock& block);
-  void DrawRow(QPainter& painter, const QTextBlock& block) const;
-  void DrawCellEnds(QPainter& painter, const QTextBlock& block) const;
-  bool EndsRow(const QTextBlock& block) const;
-  // What the character at a place of the widget's text was in the file.
-  bool Is(Origin::Kind kind, int place) const;
-  QString LabelOf(const QTextBlock& block);
+  // The label of what begins with a line, in that style.
+  void DrawLabel(QPainter& painter, const QTextBlock& block, const QTextLine& line,
+                 const QTextBlockFormat& style);
+  QString LabelAt(int place);
 
   const Document& document_;
   const PositionMap& positions_;

@@ -95,9 +95,9 @@ QSizeF TextPictures::intrinsicSize(QTextDocument* shown, int position,
   const Page& page = PageLayout::Of(*shown).ThePage();
   const QSizeF whole(std::max(size.width / kTwipsInPixel, kLeastLength) * page.scale,
                      std::max(size.height / kTwipsInPixel, kLeastLength) * page.scale);
-  const QTextBlockFormat paragraph = shown->findBlock(position).blockFormat();
-  const double margins = (paragraph.leftMargin() + paragraph.rightMargin()) * page.scale;
-  const double room = std::max(page.width - margins, kLeastLength);
+  const QTextBlock paragraph = shown->findBlock(position);
+  const double room =
+      std::max(RoomAt(paragraph, position - paragraph.position(), page), kLeastLength);
   return whole.width() <= room ? whole : whole * (room / whole.width());
 }
 

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "window/page/row_layout.h"
 #include "window/shared/appearance.h"
-#include "window/text/paragraph_decoration.h"
 #include "window/text/text_pictures.h"
 
 namespace quill {
@@ -94,6 +94,8 @@ Qt::Alignment AlignmentOf(const ParagraphLook& look) {
   }
 }
 
+}  // namespace
+
 QTextBlockFormat ParagraphStyle(const ParagraphLook& look) {
   QTextBlockFormat style;
   style.setAlignment(AlignmentOf(look));
@@ -106,8 +108,6 @@ QTextBlockFormat ParagraphStyle(const ParagraphLook& look) {
   if (look.inTable) SetInTable(style);
   return style;
 }
-
-}  // namespace
 
 double RaisedPercent(Twips offset, int halfPoints) {
   // A tagged term stands a point and a quarter above its line: too little to be seen at a glance.

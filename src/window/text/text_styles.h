@@ -26,6 +26,8 @@ class TextStyles {
   void Learn(FormatId id);
 };
 
+QTextBlockFormat ParagraphStyle(const ParagraphLook& look);
+
 // How far above the baseline an offset is drawn, in percent of the font's height.
 double RaisedPercent(Twips offset, int halfPoints);
 
