@@ -5,8 +5,10 @@
 
 #include <string>
 
+#include "rtf/notes.h"
 #include "rtf/reader.h"
 #include "rtf/table.h"
+#include "text/unicode.h"
 
 namespace quill::rtf {
 namespace {
@@ -84,6 +86,68 @@ TEST(Decoration, RowsOfTables) {
   ASSERT_EQ(second.cells.size(), 1U);
   EXPECT_EQ(second.cells[0].shading, RGB(127, 127, 127));
   EXPECT_EQ(second.cells[0].borders.top, Border{}) << "nothing is told of borders";
+}
+
+TEST(Decoration, EndsOfPages) {
+  const struct {
+    const char* body;  // its first paragraph ends at 1
+    bool ends;
+  } kCases[] = {
+      {R"(a\page b)", true},
+      {R"(a\par b)", false},
+      {R"(a\page)", false},
+      {R"(a\sect\sectd b)", true},
+      {R"(a\sect\sectd\sbknone b)", false},
+      {R"(a\par\pard\pagebb b)", true},
+      {R"(a\par\pagebb\pard b)", false},
+      {R"(a\par\pagebb0 b)", false},
+  };
+  for (const auto& test : kCases) EXPECT_EQ(EndsPage(Load(test.body), 1), test.ends) << test.body;
+}
+
+// Kind, mark, the place of the character behind, author and text.
+std::string Told(const Document& document) {
+  std::string told;
+  for (const Note& note : FindNotes(document)) {
+    told += std::string(1, "FEC"[note.kind]) + note.mark + " " +
+            std::to_string(document.Origins().FirstBehind(note.place, 0)) + " " +
+            ToUtf8(AuthorOf(document, note)) + "|" + ToUtf8(TextOf(document, note)) + ";";
+  }
+  return told;
+}
+
+TEST(Decoration, NotesAreFoundInTheKeptBytes) {
+  const struct {
+    const char* body;
+    const char* notes;
+  } kCases[] = {
+      {R"(a{\super\chftn}{\footnote\pard {\up6\chftn} one\par two} b{\*\footnote * own}c)",
+       "F1 1 |one\ntwo;F 3 |* own;"},
+      {R"(a\chftn{\footnote \'e9}b{\footnote\ftnalt\chftn e}c{\footnote\chftn f})",
+       "F1 1 |\xC3\xA9;E1 2 |e;F2 3 |f;"},
+      {R"(\ftnnruc\ftnstart4 a{\footnote\chftn}{\footnote\chftn}\aftnnalc\aftnstart28 )"
+       R"({\footnote\ftnalt\chftn})",
+       "FIV 1 |;FV 1 |;Ebb 1 |;"},
+      {R"(\fet1\aftnnrlc\aftnstart1949{\footnote\chftn}a)", "Emcmxlix 0 |;"},
+      {R"(x{\*\atnid J}{\*\atnauthor J\'f6}\chatn{\*\annotation{\*\atnref 1}{\*\atndate 5}says}y)",
+       "C 1 J\xC3\xB6|says;"},
+      {R"({\header {\footnote h}}a{\*\new {\footnote n}}\\footnote{\pict{\footnote}})", ""},
+      {R"(a{\footnote x{\*\annotation y}{\footnote z}}b)", "F 1 |x;"},
+      {R"(a{\footnote broken)", "F 1 |broken;"},
+  };
+  for (const auto& test : kCases) EXPECT_EQ(Told(Load(test.body)), test.notes) << test.body;
+}
+
+TEST(Decoration, NotesStayWithTheirCharacters) {
+  Document document = Load(R"(ab{\footnote x}cd)");
+  document.Type({1, 1}, U"..", {});
+  EXPECT_EQ(Told(document), "F 4 |x;");
+  document.Type({4, 4}, U"..", {});
+  EXPECT_EQ(document.Text(), U"a..b..cd");
+  const std::string beside = Told(document);
+  EXPECT_TRUE(beside == "F 4 |x;" || beside == "F 6 |x;") << beside;
+  document.Type({2, 8}, U"", {});
+  EXPECT_EQ(Told(document), "F 2 |x;");
 }
 
 }  // namespace

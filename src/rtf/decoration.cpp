@@ -2,16 +2,16 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
-#include "rtf/reader.h"
+#include "rtf/fragment.h"
 #include "rtf/syntax/lexer.h"
 
 namespace quill::rtf {
 namespace {
 
-// A file that holds more in front of its text, or of a paragraph, must not take the time.
-constexpr std::size_t kMostHeader = std::size_t{1} << 17U;
+// A file that holds more in front of a paragraph must not take the time.
 constexpr std::size_t kMostInFront = std::size_t{1} << 17U;
 constexpr std::size_t kMostLabelBytes = 4096;
 constexpr std::size_t kMostLabel = 32;
@@ -36,31 +36,6 @@ std::string_view LabelIn(std::string_view bytes) {
   return {};
 }
 
-// As far as the brace that closes the group in which the bytes begin.
-std::string_view UpToClose(std::string_view bytes) {
-  Lexer lexer(bytes);
-  for (int depth = 1;;) {
-    const Token token = lexer.Next();
-    if (token.kind == Token::kOpen) ++depth;
-    if (token.kind == Token::kClose) --depth;
-    if (depth == 0 || token.kind == Token::kEnd) return bytes.substr(0, token.begin);
-  }
-}
-
-// The tables of the file, for the label's fonts, and the label: a small file. It breaks off, which
-// does no harm.
-std::string LabelFile(const Document& document, std::string_view label) {
-  const Source& source = document.GetSource();
-  const std::size_t header =
-      source.colours.present ? source.colours.end : document.Origins()[0].begin;
-  std::string file = header < kMostHeader ? source.bytes.substr(0, header) : "{\\rtf1";
-  if (source.colours.present && header < kMostHeader) file += '}';
-  file += '{';
-  file += label;
-  file += '}';
-  return file;
-}
-
 }  // namespace
 
 int LabelLength(const Document& document, Position paragraph) {
@@ -78,7 +53,7 @@ int LabelLength(const Document& document, Position paragraph) {
 Label LabelOf(const Document& document, Position paragraph) {
   const std::string_view group = LabelIn(InFrontOf(document, paragraph));
   if (group.empty()) return {};
-  const auto read = Read(LabelFile(document, UpToClose(group)));
+  const std::optional<Document> read = ReadFragment(document, UpToClose(group));
   if (!read) return {};
   constexpr std::u32string_view kBlanks = U" \t\n\u00A0\u2028";
   const std::u32string& text = read->Text();
@@ -87,6 +62,20 @@ Label LabelOf(const Document& document, Position paragraph) {
   const std::size_t end = text.find_last_not_of(kBlanks) + 1;
   const std::uint16_t font = read->FormatAt(static_cast<Position>(begin)).look.font;
   return {text.substr(begin, std::min(end - begin, kMostLabel)), read->Fonts()[font].name};
+}
+
+bool EndsPage(const Document& document, Position paragraphEnd) {
+  if (paragraphEnd + 1 >= document.Length()) return false;
+  const std::string_view end = document.BytesOf(paragraphEnd);
+  const std::string_view between = InFrontOf(document, paragraphEnd + 1);
+  if (end.starts_with("\\page")) return true;
+  if (end.starts_with("\\sect")) {
+    return between.find("\\sbknone") == std::string_view::npos &&
+           between.find("\\sbkcol") == std::string_view::npos;
+  }
+  const std::size_t word = between.rfind("\\pagebb");
+  return word != std::string_view::npos && !between.substr(word).starts_with("\\pagebb0") &&
+         between.find("\\pard", word) == std::string_view::npos;
 }
 
 }  // namespace quill::rtf

@@ -1,5 +1,5 @@
-// What stands around paragraphs without being text: the labels of lists. Read from the bytes in
-// front of a paragraph when it is asked for; the document keeps none of it.
+// What stands around paragraphs without being text: the labels of lists and the ends of pages. Read
+// from the bytes in front of a paragraph when it is asked for; the document keeps none of it.
 #pragma once
 
 #include <string>
@@ -20,5 +20,8 @@ struct Label {
 };
 // It reads the tables of the file anew, which takes a thousand times longer.
 Label LabelOf(const Document& document, Position paragraph);
+
+// Whether the file begins another page behind the paragraph whose last character stands there.
+bool EndsPage(const Document& document, Position paragraphEnd);
 
 }  // namespace quill::rtf

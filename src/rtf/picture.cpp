@@ -54,6 +54,7 @@ class PictureWalk {
   }
 
   bool IsDrawable() const { return pixels_; }
+  std::string_view Kind() const { return kind_; }
   PictureSize Size() const { return {width_.Shown(pixels_), height_.Shown(pixels_)}; }
 
   // The data at which Next stopped. Call it once.
@@ -87,6 +88,7 @@ class PictureWalk {
     pictureDepth_ = depth_;
     width_ = height_ = {};
     pixels_ = false;
+    kind_ = {};
   }
 
   void ReadWord(const Token& token) {
@@ -100,6 +102,10 @@ class PictureWalk {
     if (token.word == "picscalex") width_.scale = token.number;
     if (token.word == "picscaley") height_.scale = token.number;
     if (token.word == "pngblip" || token.word == "jpegblip") pixels_ = true;
+    if (token.word == "wmetafile") kind_ = "WMF";
+    if (token.word == "emfblip") kind_ = "EMF";
+    if (token.word == "macpict") kind_ = "PICT";
+    if (token.word == "dibitmap" || token.word == "wbitmap") kind_ = "BMP";
   }
 
   void AppendHex(const Token& token, std::string& data, int& high) const {
@@ -129,6 +135,7 @@ class PictureWalk {
   Extent width_;
   Extent height_;
   bool pixels_ = false;
+  std::string_view kind_;
 };
 
 }  // namespace
@@ -137,6 +144,12 @@ PictureSize SizeOfPicture(std::string_view group) {
   PictureWalk walk(group);
   walk.Next();
   return walk.Size();
+}
+
+std::string_view KindOfPicture(std::string_view group) {
+  PictureWalk walk(group);
+  walk.Next();
+  return walk.Kind();
 }
 
 std::string PictureData(std::string_view group) {

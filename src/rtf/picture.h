@@ -18,6 +18,10 @@ struct PictureSize {
 // begins.
 PictureSize SizeOfPicture(std::string_view group);
 
+// What the first picture in the group is declared to be, if neither PNG nor JPEG: "WMF", "EMF",
+// "BMP" or "PICT"; empty for others.
+std::string_view KindOfPicture(std::string_view group);
+
 // The data of the first picture in the group that is declared PNG or JPEG; empty if there is none.
 // Skips what is not a hexadecimal digit.
 std::string PictureData(std::string_view group);

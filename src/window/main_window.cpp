@@ -130,6 +130,7 @@ void MainWindow::BuildControls() {
     if (control == &form_.RichTextBox1) {
       auto text = std::make_unique<DocumentBinder>(form_.RichTextBox1, container, actions_);
       updates_.FollowText(*text);
+      text_ = text.get();
       binders_.push_back(std::move(text));
     } else {
       binders_.push_back(MakeBinder(*control, container, actions_));
@@ -180,9 +181,16 @@ void MainWindow::Show() {
   // A control that lost the keyboard by going out of reach gets it back when it returns.
   const bool isBack = form_.Focus() != nullptr && desk_->hasFocus();
   if (updates_.TakeFocusMoved() || isBack) ShowFocus();
-  const TextSurface& text = form_.RichTextBox1;
-  mark_->setText(MarkNameAt(text.Doc(), text.Selection()));
+  ShowMarkAtCaret();
   if (copies_ != nullptr) copies_->Look();
+}
+
+// A long note is told by its beginning, and as a whole to those who have it read out.
+void MainWindow::ShowMarkAtCaret() {
+  const QString name = text_->NameAtCaret();
+  const QString line = name.simplified();
+  mark_->setText(mark_->fontMetrics().elidedText(line, Qt::ElideRight, mark_->minimumWidth() - 24));
+  mark_->setAccessibleDescription(name);
 }
 
 void MainWindow::TextLeaves() {

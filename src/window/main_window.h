@@ -19,6 +19,7 @@ class QScrollArea;
 
 namespace quill {
 
+class DocumentBinder;
 class UnsavedCopies;
 
 class MainWindow final : public QMainWindow {
@@ -48,6 +49,7 @@ class MainWindow final : public QMainWindow {
  private:
   void BuildMenus();
   void BuildMarkLabel();
+  void ShowMarkAtCaret();
   void BuildControls();
   void StackControls();
   void BuildShortcuts();
@@ -82,6 +84,7 @@ class MainWindow final : public QMainWindow {
   std::vector<std::unique_ptr<Binder>> binders_;  // in the order of the catalogue, menus first
   QScrollArea* room_;                             // the viewport of the desk
   QWidget* desk_;
+  DocumentBinder* text_ = nullptr;
   QLabel* mark_ = nullptr;        // names the mark at the caret
   Control* lastFocus_ = nullptr;  // where Tab continues from
   UnsavedCopies* copies_ = nullptr;

@@ -1,7 +1,9 @@
 // What is drawn around paragraphs without being text of theirs.
+#include <QLabel>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QToolTip>
 #include <QtTest>
 
 #include "shown_window.h"
@@ -63,6 +65,57 @@ TEST_F(DecorationTest, LinesPartRowsAndCells) {
     const QRect place = CaretAt(cell);
     EXPECT_EQ(grey({place.left() - 12, place.top() + 3, 10, 1}, {1, 0}), 1) << cell;
     EXPECT_EQ(grey({place.left() + 3, place.top() + 3, 100, 1}, {1, 0}), 0) << cell;
+  }
+}
+
+TEST_F(DecorationTest, NotesAreTickedAndTold) {
+  OpenText(
+      R"(one{\super\chftn}{\footnote {\chftn} be\'e9low} two {\*\atnauthor Ann}{\*\annotation <odd>}\par )"
+      R"(\trowd\cellx3000\cellx6000\intbl a\cell{\footnote *}b\cell\row\pard end)");
+  const auto isTick = [](const QColor& colour) { return colour == QColor(0x78, 0x80, 0x88); };
+  const auto expectTick = [&](Position gap, int scale, int x) {
+    const QRect caret = CaretAt(gap);
+    const QRect near(caret.left() - 10 * scale, caret.top() - 2, 20 * scale, 14 * scale);
+    const QRect tick = AreaOf(Painted(near), isTick).translated(near.topLeft());
+    EXPECT_NEAR(tick.center().x(), caret.left() + x, scale) << gap;
+    EXPECT_NEAR(tick.width(), 6 * scale, 2 * scale) << gap;
+    EXPECT_NEAR(tick.top(), caret.top(), 1) << gap;
+  };
+  for (const int scale : {1, 2}) {
+    for (int i = 0; scale == 2 && i < 5; ++i) {
+      QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    }
+    expectTick(3, scale, 0);
+    expectTick(8, scale, 0);
+    expectTick(11, scale, 0);
+    EXPECT_TRUE(AreaOf(Painted(CaretAt(5).adjusted(-4, 0, 4, 0)), isTick).isEmpty());
+  }
+  const auto told = [&](Position at) {
+    ClickAt(at);
+    return window.findChild<QLabel*>(QStringLiteral("MarkAtCaret"))->accessibleDescription();
+  };
+  EXPECT_EQ(told(3), QStringLiteral("Footnote 1: be\u00E9low"));
+  EXPECT_EQ(told(4), QString());
+  EXPECT_EQ(told(8), QStringLiteral("Comment by Ann: <odd>"));
+  const QPoint place = CaretAt(8).center();
+  QHelpEvent help(QEvent::ToolTip, place, View().viewport()->mapToGlobal(place));
+  QApplication::sendEvent(View().viewport(), &help);
+  EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("Comment by Ann: &lt;odd&gt;")));
+  QToolTip::hideText();
+  ClickAt(1);
+  Keys("x");
+  expectTick(4, 2, 0);
+  EXPECT_EQ(told(4), QStringLiteral("Footnote 1: be\u00E9low"));
+}
+
+TEST_F(DecorationTest, PagesEndInADashedLine) {
+  OpenText(R"(one\page two\par\pard\pagebb three\par four)");
+  const auto isLine = [](const QColor& colour) { return colour == QColor(0xa0, 0xa0, 0xa0); };
+  for (const Position at : {0, 4, 8}) {
+    const QRect line = CaretAt(at);
+    const QRect end(ThePage().left + 200, line.top() + 3, 300, line.height());
+    const QRect area = AreaOf(Painted(end), isLine);
+    EXPECT_EQ(area.height(), at < 8 ? 1 : 0) << at;
   }
 }
 

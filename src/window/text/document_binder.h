@@ -26,6 +26,7 @@ class DocumentBinder final : public WidgetBinder {
   void AskReveal(bool reveal) { reveal_ = reveal; }
 
   void Show() override;
+  QString NameAtCaret() const { return view_.NameAtCaret(); }
 
  private:
   DocumentBinder(TextSurface& text, DocumentView& view, Actions& actions);

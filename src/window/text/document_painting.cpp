@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "window/page/page_layout.h"
+#include "window/shared/cut_text.h"
 #include "window/text/document_view.h"
 #include "window/text/mark_names.h"
 
@@ -155,6 +156,10 @@ bool DocumentView::viewportEvent(QEvent* event) {
 }
 
 bool DocumentView::ShowMarkName(const QHelpEvent& event) {
+  if (const QString note = NoteUnder(event.pos()); !note.isEmpty()) {
+    TellWhole(event, note, *viewport());
+    return true;
+  }
   const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
   const int at =
       document()->documentLayout()->hitTest(QPointF(event.pos() + scrolled), Qt::ExactHit);
@@ -164,6 +169,24 @@ bool DocumentView::ShowMarkName(const QHelpEvent& event) {
   if (name.isEmpty()) return false;
   QToolTip::showText(event.globalPos(), name, viewport());
   return true;
+}
+
+QString DocumentView::NoteUnder(QPoint point) const {
+  constexpr double kReach = 6;
+  const QTextCursor cursor = cursorForPosition(point);
+  const QRect gap = cursorRect(cursor);
+  const double away = std::abs(gap.center().x() - point.x());
+  const bool isNear = away <= kReach * PageLayout::Of(*document()).ThePage().scale &&
+                      point.y() >= gap.top() && point.y() <= gap.bottom();
+  return isNear ? decoration_.Notes().TextAt(positions_.ToModel(cursor.position())) : QString();
+}
+
+QString DocumentView::NameAtCaret() const {
+  const Range selection = text_.Selection();
+  QStringList names{MarkNameAt(text_.Doc(), selection)};
+  if (selection.Length() == 0) names += decoration_.Notes().TextAt(selection.begin);
+  names.removeAll(QString());
+  return names.join(QStringLiteral("; "));
 }
 
 // --- Zoom ------------------------------------------------------------------------------------

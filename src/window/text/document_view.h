@@ -35,6 +35,9 @@ class DocumentView final : public QTextEdit {
   // Whether a caret without a selection is of use: keys would go to it.
   bool IsInUse() const;
 
+  // The mark and the note at the caret in words; empty where there is neither.
+  QString NameAtCaret() const;
+
   // Changes what is shown, without moving the line that the reader has at the top.
   void KeepPlace(const std::function<void()>& change) { place_.Keep(change); }
   // Scrolls so that a range is seen with some lines around it, clear of the panels that lie over
@@ -76,7 +79,9 @@ class DocumentView final : public QTextEdit {
   void Paste();
   void SelectEverything();
 
-  // Tells the mark under the mouse in words. Returns whether there is one.
+  // The note anchored at the gap under the mouse; empty where there is none.
+  QString NoteUnder(QPoint point) const;
+  // Tells the note or the mark under the mouse in words. Returns whether there is one.
   bool ShowMarkName(const QHelpEvent& event);
   void ZoomBy(int steps);
   void ZoomBack();

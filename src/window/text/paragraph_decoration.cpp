@@ -6,6 +6,7 @@
 #include <QTextDocument>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "rtf/decoration.h"
@@ -24,6 +25,8 @@ constexpr int kLabelRoom = QTextFormat::UserProperty + 2;
 // In pixels of 1/96 inch.
 constexpr double kLabelGap = 3;    // behind a label
 constexpr double kLabelWidth = 7;  // of one of its characters, about
+
+const QColor kPageEnd(0xa0, 0xa0, 0xa0);
 
 void MakeRoomForLabel(QTextBlockFormat& style, int length) {
   // Where the first line hangs out, the label stands in that room.
@@ -68,21 +71,44 @@ QTextBlockFormat WithLabelRoom(QTextBlockFormat style, const Document& document,
 }
 
 ParagraphDecoration::ParagraphDecoration(const Document& document, const PositionMap& positions)
-    : document_(document), positions_(positions) {}
+    : document_(document), positions_(positions), notes_(document, positions) {}
+
+void ParagraphDecoration::Clear() {
+  labels_.clear();
+  notes_.Clear();
+}
 
 void ParagraphDecoration::Draw(QPainter& painter, const QTextBlock& first, int bottom) {
   const QAbstractTextDocumentLayout& layout = *first.document()->documentLayout();
   for (QTextBlock block = first; block.isValid(); block = block.next()) {
     if (layout.blockBoundingRect(block).top() > bottom) break;
-    const QTextLayout& lines = *block.layout();
-    if (lines.lineCount() == 0) continue;
-    const InRow* const row = RowOf(block);
-    if (row == nullptr) DrawLabel(painter, block, lines.lineAt(0), block.blockFormat());
-    int begin = 0;
-    for (std::size_t i = 0; row != nullptr && i < row->parts.size(); ++i) {
-      DrawLabel(painter, block, lines.lineForTextPosition(begin), row->parts[i].style);
-      begin = row->parts[i].end;
-    }
+    if (block.layout()->lineCount() == 0) continue;
+    DrawLabels(painter, block);
+    DrawPageEnd(painter, block);
+    notes_.Draw(painter, block);
+  }
+}
+
+// Through the middle of an empty paragraph, else below the text.
+void ParagraphDecoration::DrawPageEnd(QPainter& painter, const QTextBlock& block) const {
+  const Position end = positions_.ToModel(block.position() + block.length() - 1);
+  if (!rtf::EndsPage(document_, end)) return;
+  const Page& page = PageLayout::Of(*block.document()).ThePage();
+  const QTextLayout& layout = *block.layout();
+  const QRectF lines = layout.boundingRect().translated(layout.position());
+  const double y = std::floor(block.length() == 1 ? lines.center().y() : lines.bottom());
+  painter.setPen(QPen(kPageEnd, 1, Qt::DashLine));
+  painter.drawLine(QPointF(page.left, y), QPointF(page.left + page.width, y));
+}
+
+void ParagraphDecoration::DrawLabels(QPainter& painter, const QTextBlock& block) {
+  const QTextLayout& lines = *block.layout();
+  const InRow* const row = RowOf(block);
+  if (row == nullptr) DrawLabel(painter, block, lines.lineAt(0), block.blockFormat());
+  int begin = 0;
+  for (std::size_t i = 0; row != nullptr && i < row->parts.size(); ++i) {
+    DrawLabel(painter, block, lines.lineForTextPosition(begin), row->parts[i].style);
+    begin = row->parts[i].end;
   }
 }
 

@@ -1,4 +1,5 @@
-// What is drawn around paragraphs without being text of theirs: the labels of lists in front of them.
+// What is drawn around paragraphs without being text of theirs: the labels of lists in front of
+// them, the ends of pages below them, and the ticks of notes.
 #pragma once
 
 #include <QString>
@@ -6,6 +7,7 @@
 #include <unordered_map>
 
 #include "window/text/position_map.h"
+#include "window/text/text_notes.h"
 
 class QPainter;
 class QRect;
@@ -27,8 +29,9 @@ class ParagraphDecoration {
   // Both must outlive the decoration.
   ParagraphDecoration(const Document& document, const PositionMap& positions);
 
-  // Forgets the labels of the text before.
-  void Clear() { labels_.clear(); }
+  const TextNotes& Notes() const { return notes_; }
+  // Forgets the labels and notes of the text before.
+  void Clear();
   // Draws what belongs to the paragraphs of a stretch of the widget's text.
   void Draw(QPainter& painter, const QTextBlock& first, int bottom);
 
@@ -36,10 +39,13 @@ class ParagraphDecoration {
   // The label of what begins with a line, in that style.
   void DrawLabel(QPainter& painter, const QTextBlock& block, const QTextLine& line,
                  const QTextBlockFormat& style);
+  void DrawLabels(QPainter& painter, const QTextBlock& block);
+  void DrawPageEnd(QPainter& painter, const QTextBlock& block) const;
   QString LabelAt(int place);
 
   const Document& document_;
   const PositionMap& positions_;
+  TextNotes notes_;
   std::unordered_map<Offset, QString> labels_;  // by where the paragraph's first character stands
 };
 

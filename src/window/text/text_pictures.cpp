@@ -43,12 +43,19 @@ QImage Decode(const std::string& bytes, QSize pixels) {
   return reader.read();
 }
 
-void DrawFrame(QPainter& painter, const QRectF& place) {
+// In place of a picture that is not drawn, with its kind where there is room for it.
+void DrawFrame(QPainter& painter, const QRectF& place, std::string_view kind) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(QColor(0xa0, 0xa0, 0xa0));
   painter.setBrush(QColor(0xf0, 0xf0, 0xf0));
   painter.drawRect(place.adjusted(0, 0, -1, -1));
+  painter.setPen(QColor(0x60, 0x60, 0x60));
+  const QString name = QString::fromLatin1(kind.data(), static_cast<qsizetype>(kind.size()));
+  const QRectF needed = painter.fontMetrics().boundingRect(name);
+  if (needed.width() < place.width() && needed.height() < place.height()) {
+    painter.drawText(place, Qt::AlignCenter, name);
+  }
   painter.restore();
 }
 
@@ -104,9 +111,10 @@ QSizeF TextPictures::intrinsicSize(QTextDocument* shown, int position,
 void TextPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocument* shown,
                               int position, const QTextFormat& /*format*/) {
   const double ratio = painter->device()->devicePixelRatioF();
-  const QImage image = ImageOf(GroupAt(*shown, position), (place.size() * ratio).toSize());
+  const std::string_view group = GroupAt(*shown, position);
+  const QImage image = ImageOf(group, (place.size() * ratio).toSize());
   if (image.isNull()) {
-    DrawFrame(*painter, place);
+    DrawFrame(*painter, place, rtf::KindOfPicture(group));
     return;
   }
   painter->save();
