@@ -17,7 +17,9 @@ Then {\cf1 caf\'e9} and {\cf2\b then} \u26085?\u26412? {\*\unknown x}{\footnote 
 {\cf1\ul yesterday} \u-10179?\u-8704? {\cf2 the day} before\tab then\line {\cf1 t\cf2 h\cf0 en}\par})"},
       {"b.rtf",
        R"({\rtf1\ansi{\colortbl;\red0\green0\blue255;\red128\green128\blue255;}\pard{\cf1 One} row
-\trowd\cellx900\cellx1800\intbl {\cf1 then}\cell two {\cf2 later}\cell\row\pard {\pict 00ff} end {\cf1 now}})"},
+\trowd\cellx900\cellx1800\intbl {\cf1 then}\cell two {\cf2 later}\cell\row
+\trowd\rtlrow\clmgf\cellx900\clmrg\cellx1800\cellx4800 first{\footnote\chftn of a cell}\par {\cf1 then}\cell\cell\qc
+before\par\cell\row\pard {\pict\emfblip\picw2000\pich900 00ff} end{\*\annotation why}\page {\cf1 now}})"},
       {"c.rtf", "plain \xC3\xA9t\xC3\xA9 then\r\nthen \xE6\x97\xA5 \xF0\x9F\x98\x80 end"},
       {"e.tbf", "{\\rtf1}"},
       {"bad.rtf", std::string("no\0text", 7)},
