@@ -54,5 +54,20 @@ TEST(Picture, Data) {
   for (const auto& test : kCases) EXPECT_EQ(PictureData(test.group), test.data) << test.group;
 }
 
+TEST(Picture, Kind) {
+  const struct {
+    const char* group;
+    const char* kind;
+  } kCases[] = {
+      {R"({\pict\wmetafile8\picw40 01})", "WMF"},
+      {R"({\object{\result{\pict\emfblip 44}}})", "EMF"},
+      {R"({\pict\macpict 01})", "PICT"},
+      {R"({\pict\dibitmap0 01})", "BMP"},
+      {R"({\pict\pngblip 01}{\pict\wmetafile8 01})", ""},
+      {R"({\object{\*\objdata 0102}})", ""},
+  };
+  for (const auto& test : kCases) EXPECT_EQ(KindOfPicture(test.group), test.kind) << test.group;
+}
+
 }  // namespace
 }  // namespace quill::rtf
