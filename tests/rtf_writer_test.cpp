@@ -353,6 +353,8 @@ TEST(RtfWriter, RewritesEveryLookThatItKnows) {
       "c}\\par"
       "\\pard\\qj{\\highlight1 d\\highlight7 e}{\\super f}{\\sub\\strike\\v g}\\page"
       "{\\dn4\\cf1\\ul h}{\\*\\shppict{\\pict 00}}{\\nonshppict{\\pict 11}}{\\pict 22}\\qr\\line "
+      "{\\pard\\sl-300\\tqr\\tldot\\tx900\\tx90\\box\\brdrdb\\brdrw9\\brsp8\\brdrt\\brdrcf1"
+      "\\shading50\\cfpat1\\cbpat7 {\\scaps\\deleted i}\\slmult1{\\caps\\revised\\expnd2 j}\\par}"
       "\\trowd\\intbl i\\cell\\row\\uc3\\u8217???\\{}";
   const Document document = *rtf::Read(look);
   const Document again = *rtf::Read(rtf::Rewritten(document));

@@ -23,15 +23,17 @@ void Fold(std::uint64_t& hash, const CharacterLook& look) {
   Fold(hash, Bits(look.font) | Bits(look.halfPoints) << 16U | Bits(look.italic) << 32U |
                  Bits(look.struckOut) << 33U | Bits(look.hidden) << 34U |
                  Bits(look.rightToLeft) << 35U | Bits(look.fallback) << 36U |
-                 (Bits(look.script) & 3U) << 52U);
-  Fold(hash, Bits(look.background));
+                 (Bits(look.script) & 3U) << 52U | Bits(look.capitals) << 54U |
+                 Bits(look.deleted) << 56U | Bits(look.inserted) << 57U);
+  Fold(hash, (Bits(look.background) & 0xFFFFFFFFU) | Bits(look.spacing) << 32U);
 }
 
 void Fold(std::uint64_t& hash, const ParagraphLook& look) {
   Fold(hash, Bits(look.alignment) | Bits(look.rightToLeft) << 8U | Bits(look.inTable) << 9U |
-                 (Bits(look.left) & 0xFFFFU) << 16U | (Bits(look.right) & 0xFFFFU) << 32U |
-                 (Bits(look.first) & 0xFFFFU) << 48U);
-  Fold(hash, (Bits(look.before) & 0xFFFFU) | (Bits(look.after) & 0xFFFFU) << 16U);
+                 Bits(look.proportional) << 10U | (Bits(look.left) & 0xFFFFU) << 16U |
+                 (Bits(look.right) & 0xFFFFU) << 32U | (Bits(look.first) & 0xFFFFU) << 48U);
+  Fold(hash, (Bits(look.before) & 0xFFFFU) | (Bits(look.after) & 0xFFFFU) << 16U |
+                 (Bits(look.lineSpacing) & 0xFFFFU) << 32U | Bits(look.details) << 48U);
 }
 
 }  // namespace

@@ -11,6 +11,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "text/paragraph_details.h"
+
 namespace quill {
 
 // r + 256 g + 65536 b.
@@ -49,6 +51,7 @@ Attributes Changed(const Attributes& attributes, const AttributeChange& change);
 void Merge(AttributeChange& into, const AttributeChange& change);
 
 enum class Alignment : std::uint8_t { kLeft, kCentre, kRight, kJustified };
+enum class Capitals : std::uint8_t { kAsWritten, kAll, kSmall };
 
 // How a character looks besides the four attributes. Lengths are in twips.
 struct CharacterLook {
@@ -57,8 +60,12 @@ struct CharacterLook {
   bool italic = false;
   bool struckOut = false;
   bool hidden = false;
-  bool rightToLeft = false;      // the run's own direction
+  bool rightToLeft = false;  // the run's own direction
+  bool deleted = false;      // by a change that the file keeps track of
+  bool inserted = false;     // the same
+  Capitals capitals = Capitals::kAsWritten;
   std::int8_t script = 0;        // 1 superscript, -1 subscript
+  std::int16_t spacing = 0;      // more room behind each character
   std::uint16_t fallback = 1;    // characters that follow \u for readers without Unicode
   std::int32_t background = -1;  // a Colour, or -1 for none
 
@@ -70,11 +77,14 @@ struct ParagraphLook {
   Alignment alignment = Alignment::kLeft;
   bool rightToLeft = false;
   bool inTable = false;
+  bool proportional = false;  // the line spacing: 240 is a line of its natural height
   std::int16_t left = 0;
   std::int16_t right = 0;
   std::int16_t first = 0;
   std::int16_t before = 0;
   std::int16_t after = 0;
+  std::int16_t lineSpacing = 0;        // 0 natural, above it at least so much, below it exactly
+  ParagraphDetails::List details = 0;  // in FormatTable::Details()
 
   bool operator==(const ParagraphLook&) const = default;
 };
@@ -99,6 +109,8 @@ class FormatTable {
   FormatId Add(const Format& format);
   const Format& operator[](FormatId id) const { return formats_[id]; }
   std::size_t Size() const { return formats_.size(); }
+  ParagraphDetails& Details() { return details_; }
+  const ParagraphDetails& Details() const { return details_; }
 
   static std::size_t HashOf(const Format& format);
 
@@ -107,6 +119,7 @@ class FormatTable {
     std::size_t operator()(const Format& format) const { return HashOf(format); }
   };
 
+  ParagraphDetails details_;
   std::vector<Format> formats_;
   std::unordered_map<Format, FormatId, Hash> ids_;
 };

@@ -32,6 +32,14 @@ bool SameLook(CharacterLook a, const CharacterLook& b) {
   return a == b;
 }
 
+// Each document numbers the lists of details for itself.
+bool SameParagraph(const Document& first, ParagraphLook a, const Document& second,
+                   ParagraphLook b) {
+  if (first.Formats().Details()[a.details] != second.Formats().Details()[b.details]) return false;
+  a.details = b.details = 0;
+  return a == b;
+}
+
 std::string Words(const Attributes& attributes) {
   return "colour " + std::to_string(attributes.colour) + (attributes.bold ? ", bold" : "") +
          (attributes.underline ? ", underlined" : "") + ", raised by " +
@@ -58,7 +66,8 @@ std::string Difference(const Document& expected, const Document& actual) {
   for (Position at = 0; at < expected.Length(); ++at) {
     const Format& a = expected.FormatAt(at);
     const Format& b = actual.FormatAt(at);
-    if (SameInFile(a.now, b.now) && SameLook(a.look, b.look) && a.paragraph == b.paragraph) {
+    if (SameInFile(a.now, b.now) && SameLook(a.look, b.look) &&
+        SameParagraph(expected, a.paragraph, actual, b.paragraph)) {
       continue;
     }
     const std::string place = " at " + std::to_string(at) + " in " + Near(expected, at);

@@ -167,10 +167,7 @@ Offset Parser::SkipToClose() {
     if (token.kind == Token::kOpen) ++depth;
     if (token.kind == Token::kClose) --depth;
     if (token.kind != Token::kWord) continue;
-    const Word word = LookUp(token.word).word;
-    if (word == Word::kColour || word == Word::kOtherColour || word == Word::kBackground) {
-      NoteColour(tables_.colours, token.number);
-    }
+    if (NamesColour(LookUp(token.word).word)) NoteColour(tables_.colours, token.number);
   }
   return at;
 }

@@ -198,20 +198,15 @@ void Parser::ReadWord(const Token& token) {
   if (head_.IsStarred() && (!head_.IsFirst() || isCharacter)) Oddity();
   if (ReadCharacterWord(entry, token)) return;
   text_.WordComes();
+  // In the middle of text, its data could be mistaken for words.
+  if (entry.word == Word::kData) Oddity();
+  if (head_.IsStarred() && head_.IsFirst() && HidesBehindStar(entry.word)) return SkipGroup();
+  if (NamesColour(entry.word)) NoteColour(tables_.colours, token.number);
   switch (entry.word) {
     case Word::kData:
-      // In the middle of text, its data could be mistaken for words.
-      Oddity();
-      [[fallthrough]];
     case Word::kUnknown:
       marks_.Other();
-      if (head_.IsStarred() && head_.IsFirst()) SkipGroup();
       return;
-    case Word::kColour:
-    case Word::kOtherColour:
-    case Word::kBackground:
-      NoteColour(tables_.colours, token.number);
-      break;
     case Word::kCharacterSet:
     case Word::kAnsiCodePage:
     case Word::kDefaultFont:
@@ -222,6 +217,9 @@ void Parser::ReadWord(const Token& token) {
   }
   if (entry.word >= Word::kSkipped && entry.word <= Word::kAlternatives) {
     return ReadDestination(entry, token);
+  }
+  if (entry.word >= Word::kTabStop && entry.word <= Word::kShadingBack) {
+    details_.Take(entry, token, tables_.colours, states_);
   }
   const AttributeChange change = ApplyStateWord(entry, token, tables_, states_);
   if (change == AttributeChange{}) {

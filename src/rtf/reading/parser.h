@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 
+#include "rtf/reading/detail_words.h"
 #include "rtf/reading/mark_groups.h"
 #include "rtf/reading/parser_memory.h"
 #include "rtf/reading/state_words.h"
@@ -72,6 +73,7 @@ class Parser {
   StateStack states_;
   TextBuilder text_;
   Tables tables_;
+  DetailWords details_;
   MarkGroupFinder marks_;
 
   Header header_;

@@ -36,6 +36,7 @@ class StateStack {
   void Set(const CharacterLook& next) { Store(now_.look, next); }
   void Set(const ParagraphLook& next) { Store(now_.paragraph, next); }
   void Set(const CodePage& next) { Store(now_.page, &next); }
+  ParagraphDetails& Details() { return formats_.Details(); }
   // The format of a character read now.
   FormatId Format();
 

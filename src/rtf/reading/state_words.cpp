@@ -19,8 +19,8 @@ Twips OffsetOf(const Token& token) {
 }
 
 template <class T>
-T Clamped(std::int32_t number) {
-  return static_cast<T>(std::clamp<std::int32_t>(number, std::numeric_limits<T>::min(),
+T Clamped(std::int64_t number) {
+  return static_cast<T>(std::clamp<std::int64_t>(number, std::numeric_limits<T>::min(),
                                                  std::numeric_limits<T>::max()));
 }
 
@@ -94,6 +94,18 @@ void ApplyLook(const WordEntry& entry, const Token& token, const Tables& tables,
     case Word::kScript:
       next.script = IsOn(token) ? Clamped<std::int8_t>(entry.argument) : std::int8_t{0};
       break;
+    case Word::kDeleted:
+      next.deleted = IsOn(token);
+      break;
+    case Word::kInserted:
+      next.inserted = IsOn(token);
+      break;
+    case Word::kCapitals:
+      next.capitals = IsOn(token) ? static_cast<Capitals>(entry.argument) : Capitals::kAsWritten;
+      break;
+    case Word::kLetterSpacing:
+      next.spacing = Clamped<std::int16_t>(std::int64_t{token.number} * entry.argument);
+      break;
     case Word::kBackground:
       next.background = BackgroundOf(token, tables);
       break;
@@ -141,6 +153,12 @@ void ApplyParagraph(const WordEntry& entry, const Token& token, StateStack& stat
     case Word::kSpaceAfter:
       next.after = length;
       break;
+    case Word::kLineSpacing:
+      next.lineSpacing = length;
+      break;
+    case Word::kLineSpacingIsProportional:
+      next.proportional = IsOn(token);
+      break;
     default:
       break;
   }
@@ -157,7 +175,8 @@ AttributeChange ApplyStateWord(const WordEntry& entry, const Token& token, const
     states.Set(Changed(states.Now().attributes, change));
   } else if (entry.word >= Word::kPlain && entry.word <= Word::kFallback) {
     ApplyLook(entry, token, tables, states);
-  } else if (entry.word >= Word::kParagraphDefaults && entry.word <= Word::kSpaceAfter) {
+  } else if (entry.word >= Word::kParagraphDefaults &&
+             entry.word <= Word::kLineSpacingIsProportional) {
     ApplyParagraph(entry, token, states);
   }
   return change;

@@ -6,11 +6,17 @@
 #include <vector>
 
 #include "text/format.h"
+#include "text/paragraph_details.h"
 
 namespace quill::rtf {
 namespace {
 
-constexpr std::int32_t Number(Alignment alignment) { return static_cast<std::int32_t>(alignment); }
+template <class Name>
+constexpr std::int32_t Number(Name name) {
+  return static_cast<std::int32_t>(name);
+}
+
+constexpr std::int32_t kOfSomethingElse = -1;
 
 constexpr WordEntry kWords[] = {
     // Headers.
@@ -120,6 +126,12 @@ constexpr WordEntry kWords[] = {
     {"super", Word::kScript, 1},
     {"sub", Word::kScript, -1},
     {"nosupersub", Word::kScript, 0},
+    {"deleted", Word::kDeleted},
+    {"revised", Word::kInserted},
+    {"caps", Word::kCapitals, Number(Capitals::kAll)},
+    {"scaps", Word::kCapitals, Number(Capitals::kSmall)},
+    {"expnd", Word::kLetterSpacing, 5},
+    {"expndtw", Word::kLetterSpacing, 1},
     {"highlight", Word::kBackground},
     {"cb", Word::kBackground},
     {"chcbpat", Word::kBackground},
@@ -142,6 +154,90 @@ constexpr WordEntry kWords[] = {
     {"fi", Word::kFirstIndent},
     {"sb", Word::kSpaceBefore},
     {"sa", Word::kSpaceAfter},
+    {"sl", Word::kLineSpacing},
+    {"slmult", Word::kLineSpacingIsProportional},
+
+    // What stands around paragraphs, and their tab stops.
+    {"tx", Word::kTabStop},
+    {"tql", Word::kTabAlignment, Number(TabAlignment::kLeft)},
+    {"tqc", Word::kTabAlignment, Number(TabAlignment::kCentre)},
+    {"tqr", Word::kTabAlignment, Number(TabAlignment::kRight)},
+    {"tqdec", Word::kTabAlignment, Number(TabAlignment::kDecimal)},
+    {"tldot", Word::kTabLeader, Number(Leader::kDots)},
+    {"tlmdot", Word::kTabLeader, Number(Leader::kDots)},
+    {"tlhyph", Word::kTabLeader, Number(Leader::kHyphens)},
+    {"tlul", Word::kTabLeader, Number(Leader::kLine)},
+    {"tlth", Word::kTabLeader, Number(Leader::kLine)},
+    {"tleq", Word::kTabLeader, Number(Leader::kHyphens)},
+    {"brdrt", Word::kBorder, kTopBorder},
+    {"brdrb", Word::kBorder, kBottomBorder},
+    {"brdrl", Word::kBorder, kLeftBorder},
+    {"brdrr", Word::kBorder, kRightBorder},
+    {"brdrbtw", Word::kBorder, kBorderBetween},
+    {"box", Word::kBorder, kAllBorders},
+    {"trbrdrt", Word::kBorder, kOfSomethingElse},
+    {"trbrdrb", Word::kBorder, kOfSomethingElse},
+    {"trbrdrl", Word::kBorder, kOfSomethingElse},
+    {"trbrdrr", Word::kBorder, kOfSomethingElse},
+    {"trbrdrh", Word::kBorder, kOfSomethingElse},
+    {"trbrdrv", Word::kBorder, kOfSomethingElse},
+    {"clbrdrt", Word::kBorder, kOfSomethingElse},
+    {"clbrdrb", Word::kBorder, kOfSomethingElse},
+    {"clbrdrl", Word::kBorder, kOfSomethingElse},
+    {"clbrdrr", Word::kBorder, kOfSomethingElse},
+    {"cldgll", Word::kBorder, kOfSomethingElse},
+    {"cldglu", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrt", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrb", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrl", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrr", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrh", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrv", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrdgl", Word::kBorder, kOfSomethingElse},
+    {"tsbrdrdgr", Word::kBorder, kOfSomethingElse},
+    {"pgbrdrt", Word::kBorder, kOfSomethingElse},
+    {"pgbrdrb", Word::kBorder, kOfSomethingElse},
+    {"pgbrdrl", Word::kBorder, kOfSomethingElse},
+    {"pgbrdrr", Word::kBorder, kOfSomethingElse},
+    {"chbrdr", Word::kBorder, kOfSomethingElse},
+    {"brdrnil", Word::kBorderStyle, Number(BorderStyle::kNone)},
+    {"brdrnone", Word::kBorderStyle, Number(BorderStyle::kNone)},
+    {"brdrs", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrth", Word::kBorderStyle, Number(BorderStyle::kThick)},
+    {"brdrhair", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrsh", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrdb", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrdot", Word::kBorderStyle, Number(BorderStyle::kDotted)},
+    {"brdrdash", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashsm", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashd", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashdd", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashdot", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashdotdot", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrdashdotstr", Word::kBorderStyle, Number(BorderStyle::kDashed)},
+    {"brdrtriple", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthsg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrthtnsg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthtnsg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthmg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrthtnmg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthtnmg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthlg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrthtnlg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrtnthtnlg", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdrwavy", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrwavydb", Word::kBorderStyle, Number(BorderStyle::kDouble)},
+    {"brdremboss", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrengrave", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdroutset", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrinset", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrframe", Word::kBorderStyle, Number(BorderStyle::kSingle)},
+    {"brdrw", Word::kBorderWidth},
+    {"brsp", Word::kBorderGap},
+    {"brdrcf", Word::kBorderColour},
+    {"shading", Word::kShadingAmount},
+    {"cfpat", Word::kShadingFront},
+    {"cbpat", Word::kShadingBack},
 
     // Fonts.
     {"fcharset", Word::kFontCharset},
@@ -150,8 +246,6 @@ constexpr WordEntry kWords[] = {
     // Other words that refer to the colour table.
     {"acf", Word::kOtherColour},
     {"ulc", Word::kOtherColour},
-    {"cfpat", Word::kOtherColour},
-    {"cbpat", Word::kOtherColour},
     {"chcfpat", Word::kOtherColour},
     {"clcfpat", Word::kOtherColour},
     {"clcbpat", Word::kOtherColour},
@@ -161,7 +255,6 @@ constexpr WordEntry kWords[] = {
     {"trcbpat", Word::kOtherColour},
     {"tscellcfpat", Word::kOtherColour},
     {"tscellcbpat", Word::kOtherColour},
-    {"brdrcf", Word::kOtherColour},
     {"pncf", Word::kOtherColour},
     {"strokec", Word::kOtherColour},
 
@@ -170,12 +263,8 @@ constexpr WordEntry kWords[] = {
     {"s", Word::kKnown},
     {"ds", Word::kKnown},
     {"lang", Word::kKnown},
-    {"caps", Word::kKnown},
-    {"scaps", Word::kKnown},
     {"outl", Word::kKnown},
     {"shad", Word::kKnown},
-    {"deleted", Word::kKnown},
-    {"revised", Word::kKnown},
 };
 
 // Destinations that hold no text of the document, with or without a leading \*.
@@ -238,6 +327,25 @@ class WordIndex {
 };
 
 }  // namespace
+
+bool NamesColour(Word word) {
+  switch (word) {
+    case Word::kColour:
+    case Word::kOtherColour:
+    case Word::kBackground:
+    case Word::kBorderColour:
+    case Word::kShadingFront:
+    case Word::kShadingBack:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool HidesBehindStar(Word word) {
+  return word == Word::kUnknown || word == Word::kData || word == Word::kLetterSpacing ||
+         (word >= Word::kLineSpacing && word <= Word::kShadingAmount && !NamesColour(word));
+}
 
 const WordEntry& LookUp(std::string_view name) {
   static const WordIndex index;

@@ -43,6 +43,10 @@ enum class Word : std::uint8_t {
   kStrike,
   kHidden,
   kScript,  // argument: 1, -1, 0
+  kDeleted,
+  kInserted,
+  kCapitals,       // argument: a Capitals
+  kLetterSpacing,  // argument: how many twips the number counts
   kBackground,
   kFont,
   kFontSize,
@@ -58,6 +62,20 @@ enum class Word : std::uint8_t {
   kFirstIndent,
   kSpaceBefore,
   kSpaceAfter,
+  kLineSpacing,
+  kLineSpacingIsProportional,
+  // The paragraph's details.
+  kTabStop,
+  kTabAlignment,  // of the stop that follows; argument: a TabAlignment
+  kTabLeader,     // the same; argument: a Leader
+  kBorder,       // which one the words behind speak of; argument: a BorderSide, or -1 for another's
+  kBorderStyle,  // argument: a BorderStyle
+  kBorderWidth,
+  kBorderGap,
+  kBorderColour,
+  kShadingAmount,
+  kShadingFront,
+  kShadingBack,
   // Character sets.
   kDefaultFont,
   kAnsiCodePage,
@@ -75,6 +93,13 @@ struct WordEntry {
 // Higher colour numbers in a file are ignored when the table is extended: no program writes them,
 // and a table that reached them would outgrow the file.
 inline constexpr std::int32_t kHighestColour = 32767;
+
+// Whether the word's number refers to the colour table.
+bool NamesColour(Word word);
+
+// Whether a group that begins with \* and the word is skipped. Groups with words that only change
+// the look must be: they were when these words were unknown, and positions count characters.
+bool HidesBehindStar(Word word);
 
 // Looks a word up; unknown words get kUnknown. Case-sensitive.
 const WordEntry& LookUp(std::string_view name);

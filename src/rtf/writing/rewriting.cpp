@@ -11,6 +11,7 @@
 #include "rtf/syntax/words.h"
 #include "rtf/writing/colour_numbers.h"
 #include "rtf/writing/encode.h"
+#include "rtf/writing/paragraph_words.h"
 #include "text/unicode.h"
 
 namespace quill::rtf {
@@ -18,15 +19,12 @@ namespace {
 
 constexpr std::uint32_t kFallback = 1;
 
-std::string Word(std::string_view name, int number) {
-  return "\\" + std::string(name) + std::to_string(number);
-}
-
 std::string FontTableOf(const std::vector<FontFace>& faces) {
   std::string table = "{\\fonttbl";
   // Face 0 stands for all fonts that the table lacks.
   for (std::size_t face = 1; face < faces.size(); ++face) {
-    table += "{" + Word("f", static_cast<int>(face)) + (faces[face].symbol ? "\\fcharset2 " : " ");
+    table += "{" + NumberedWord("f", static_cast<int>(face)) +
+             (faces[face].symbol ? "\\fcharset2 " : " ");
     for (const char32_t c : FromUtf8(faces[face].name)) {
       if (c >= 0x20 && std::u32string_view(U"\\{};").find(c) == std::u32string_view::npos) {
         AppendCharacter(table, c, kFallback, false);
@@ -37,40 +35,23 @@ std::string FontTableOf(const std::vector<FontFace>& faces) {
   return table + "}";
 }
 
-std::string ParagraphWords(const ParagraphLook& look) {
-  std::string words = "\\pard";
-  const auto add = [&](std::string_view name, int number) {
-    if (number != 0) words += Word(name, number);
-  };
-  if (look.rightToLeft) words += "\\rtlpar";
-  if (look.alignment == Alignment::kCentre) words += "\\qc";
-  if (look.alignment == Alignment::kRight) words += "\\qr";
-  if (look.alignment == Alignment::kJustified) words += "\\qj";
-  if (look.inTable) words += "\\intbl";
-  add("li", look.left);
-  add("ri", look.right);
-  add("fi", look.first);
-  add("sb", look.before);
-  add("sa", look.after);
-  return words;
-}
-
 std::string CharacterWords(const CharacterLook& look, ColourNumbers& colours) {
   std::string words = "\\plain";
   if (look.rightToLeft) words += "\\rtlch";
-  if (look.font != 0) words += Word("f", look.font);
-  if (look.halfPoints != CharacterLook().halfPoints) words += Word("fs", look.halfPoints);
+  if (look.font != 0) words += NumberedWord("f", look.font);
+  if (look.halfPoints != CharacterLook().halfPoints) words += NumberedWord("fs", look.halfPoints);
   if (look.italic) words += "\\i";
   if (look.struckOut) words += "\\strike";
   if (look.hidden) words += "\\v";
+  if (look.deleted) words += "\\deleted";
+  if (look.inserted) words += "\\revised";
+  if (look.capitals == Capitals::kAll) words += "\\caps";
+  if (look.capitals == Capitals::kSmall) words += "\\scaps";
+  if (look.spacing != 0) words += NumberedWord("expndtw", look.spacing);
   if (look.script > 0) words += "\\super";
   if (look.script < 0) words += "\\sub";
-  if (look.background > 0) {
-    words +=
-        Word("highlight", static_cast<int>(colours.NumberOf(static_cast<Colour>(look.background))));
-  } else if (look.background == 0) {
-    // Number 0 means none; one past the table's end means black.
-    words += Word("highlight", kHighestColour + 1);
+  if (look.background >= 0) {
+    words += NumberedWord("highlight", GroundNumber(static_cast<Colour>(look.background), colours));
   }
   return words;
 }
@@ -117,7 +98,8 @@ std::string Rewriter::Write() {
 }
 
 void Rewriter::Open(const Format& format) {
-  body_ += "{" + ParagraphWords(format.paragraph) + CharacterWords(format.look, colours_) +
+  body_ += "{" + ParagraphWords(format.paragraph, document_.Formats().Details(), colours_) +
+           CharacterWords(format.look, colours_) +
            WordsBetween({}, InFile(format.now), format.look.rightToLeft, colours_);
   if (body_.back() != ' ') body_ += ' ';
 }
