@@ -29,6 +29,11 @@ inline constexpr Colour kNotFilledIn = RGB(255, 0, 255);
 // The background of a lemma without a kind; with a kind, it is FoundColour.
 inline constexpr Colour kNoLemmaKind = RGB(255, 255, 255);
 
+// Whether characters of that colour are a mark, or were found by a search.
+constexpr bool IsMarkColour(Colour colour) {
+  return colour == kMarkedA || colour == kFoundA || colour == kMarkedB || colour == kAskedAbout;
+}
+
 // How far a tagged term is raised above the baseline.
 inline constexpr Twips kRaised = 25;
 

@@ -20,6 +20,7 @@
 #include "text/unicode.h"
 #include "window/shared/appearance.h"
 #include "window/shared/shown.h"
+#include "window/text/text_styles.h"
 
 namespace quill::test {
 namespace {
@@ -79,6 +80,7 @@ std::vector<Attributes> ExpectedAttributes(const TextSurface& text) {
   for (Position i = 0; i < text.Length(); ++i) {
     if (text.Text()[static_cast<std::size_t>(i)] == kParagraphEnd) continue;
     expected.push_back(text.Doc().At(i));
+    expected.back().colour = ShownColour(text.Doc().FormatAt(i));
     expected.back().offset = expected.back().offset > 0 ? 1 : 0;
   }
   return expected;

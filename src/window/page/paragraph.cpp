@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "window/page/line_spacing.h"
+#include "window/page/tab_stops.h"
 #include "window/page/zoom.h"
 
 namespace quill {
@@ -23,7 +25,40 @@ QFontMetricsF MetricsOf(const QTextCharFormat& format, const QTextDocument& show
   return device != nullptr ? QFontMetricsF(font, device) : QFontMetricsF(font);
 }
 
+// No line is lower than a picture in it.
+LineSpacing SpacingOf(const QTextBlock& block, const Page& page) {
+  const LineSpacing spacing(block.blockFormat(), page.scale);
+  const bool cuts = spacing.IsExact() && block.text().contains(QChar::ObjectReplacementCharacter);
+  return cuts ? LineSpacing() : spacing;
+}
+
 int WholePixels(double length) { return static_cast<int>(std::lround(length)); }
+
+int LayLines(const QTextBlock& block, const Page& page) {
+  const QTextBlockFormat format = block.blockFormat();
+  const LineSpacing spacing = SpacingOf(block, page);
+  const bool rightToLeft = block.textDirection() == Qt::RightToLeft;
+  const double left = format.leftMargin() * page.scale;
+  const double width = page.width - left - format.rightMargin() * page.scale;
+  QTextLayout& layout = *block.layout();
+  layout.beginLayout();
+  int top = 0;
+  double height = 0;
+  double indent = format.textIndent() * page.scale;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLeadingIncluded(true);
+    line.setLineWidth(std::max(width - indent, kLeastLineWidth));
+    // A typeface may want its lines closer together than they are high.
+    const double natural = line.ascent() + line.descent() + line.leading();
+    const double begin = top + spacing.Above(natural, line.ascent());
+    line.setPosition(QPointF(left + (rightToLeft ? 0 : indent), begin));
+    top += spacing.Advance(natural);
+    height = spacing.IsNatural() ? begin + line.height() : top;
+    indent = 0;
+  }
+  layout.endLayout();
+  return static_cast<int>(std::ceil(height));
+}
 
 }  // namespace
 
@@ -41,32 +76,18 @@ QTextOption OptionOf(const QTextBlock& block, Qt::Alignment alignment) {
   QTextOption option = block.document()->defaultTextOption();
   option.setTextDirection(block.textDirection());
   option.setAlignment(QStyle::visualAlignment(block.textDirection(), alignment));
-  option.setTabs(block.blockFormat().tabPositions());
   return option;
 }
 
 int BreakIntoLines(const QTextBlock& block, const Page& page) {
-  const QTextBlockFormat format = block.blockFormat();
-  const bool rightToLeft = block.textDirection() == Qt::RightToLeft;
-  const double left = format.leftMargin() * page.scale;
-  const double width = page.width - left - format.rightMargin() * page.scale;
   QTextLayout& layout = *block.layout();
-  layout.setTextOption(OptionOf(block, format.alignment()));
-  layout.beginLayout();
-  int top = 0;
-  double height = 0;
-  double indent = format.textIndent() * page.scale;
-  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLeadingIncluded(true);
-    line.setLineWidth(std::max(width - indent, kLeastLineWidth));
-    line.setPosition(QPointF(left + (rightToLeft ? 0 : indent), top));
-    height = top + line.height();
-    // A typeface may want its lines closer together than they are high.
-    top += static_cast<int>(std::ceil(line.ascent() + line.descent() + line.leading()));
-    indent = 0;
-  }
-  layout.endLayout();
-  return static_cast<int>(std::ceil(height));
+  layout.setTextOption(OptionOf(block, block.blockFormat().alignment()));
+  const TabStops stops(block, page);
+  stops.UseForFirst(layout);
+  const int height = LayLines(block, page);
+  if (!stops.MissOthers(layout)) return height;
+  stops.UseForOthers(layout);
+  return LayLines(block, page);
 }
 
 QTextLine LineAt(const QTextLayout& paragraph, double height) {
@@ -90,10 +111,10 @@ int HeightGuess::Of(const QTextBlock& block) {
   const Letters& letters = LettersOf(block);
   const Margins& margins = MarginsOf(block);
   const double room = std::max(page_.width - margins.sides, letters.width);
-  const double lines = std::ceil((block.length() - 1) * letters.width / room);
+  const double lines = std::max(std::ceil((block.length() - 1) * letters.width / room), 1.0);
   const QTextBlock before = block.previous();
   const double space = before.isValid() ? std::max(margins.above, MarginsOf(before).below) : 0;
-  return WholePixels(std::max(lines, 1.0) * letters.lineHeight + space);
+  return WholePixels(lines * margins.spacing.Advance(letters.lineHeight) + space);
 }
 
 const HeightGuess::Letters& HeightGuess::LettersOf(const QTextBlock& block) {
@@ -111,7 +132,8 @@ const HeightGuess::Margins& HeightGuess::MarginsOf(const QTextBlock& block) {
   if (isNew) {
     const QTextBlockFormat format = block.blockFormat();
     entry->second = {page_.scale * (format.leftMargin() + format.rightMargin()),
-                     page_.scale * format.topMargin(), page_.scale * format.bottomMargin()};
+                     page_.scale * format.topMargin(), page_.scale * format.bottomMargin(),
+                     LineSpacing(format, page_.scale)};
   }
   return entry->second;
 }

@@ -4,6 +4,8 @@
 #include <QTextCharFormat>
 #include <unordered_map>
 
+#include "window/page/line_spacing.h"
+
 class QTextBlock;
 class QTextDocument;
 class QTextLayout;
@@ -55,6 +57,7 @@ class HeightGuess {
     double sides = 0;
     double above = 0;
     double below = 0;
+    LineSpacing spacing;
   };
   const Letters& LettersOf(const QTextBlock& block);
   const Margins& MarginsOf(const QTextBlock& block);

@@ -33,23 +33,46 @@ std::unique_ptr<QTextDocument> EmptyDocument(const QFont& font) {
   return document;
 }
 
-// A stretch of one format.
+// A stretch that has one style.
 struct Piece {
   Range range;
   FormatId format;
+  bool smallCapitals = false;
 };
 
-// Splits a range where the format changes.
+// Adds a stretch of small capitals and others, apart.
+void AddApart(std::vector<Piece>& pieces, const Document& document, const Piece& whole) {
+  const auto isSmall = [](char32_t c) { return QChar::isLower(c); };
+  for (Position at = whole.range.begin; at < whole.range.end;) {
+    const std::u32string_view rest = document.Text({at, whole.range.end});
+    const bool small = isSmall(rest.front());
+    const auto end = std::ranges::find_if(rest, [&](char32_t c) { return isSmall(c) != small; });
+    const Position next = at + (end - rest.begin());
+    pieces.push_back({{at, next}, whole.format, small});
+    at = next;
+  }
+}
+
+// Splits a range where the style changes.
 std::vector<Piece> PiecesOf(const Document& document, Range range) {
   std::vector<Piece> pieces;
   const FormatNumbers& ids = document.FormatIds();
   const auto last = static_cast<std::size_t>(range.end);
   for (auto at = static_cast<std::size_t>(range.begin); at < last;) {
     const std::size_t end = ids.EndOfStretch(at, last);
-    pieces.push_back({{static_cast<Position>(at), static_cast<Position>(end)}, ids[at]});
+    const Piece piece{{static_cast<Position>(at), static_cast<Position>(end)}, ids[at]};
+    if (document.Formats()[piece.format].look.capitals == Capitals::kSmall) {
+      AddApart(pieces, document, piece);
+    } else {
+      pieces.push_back(piece);
+    }
     at = end;
   }
   return pieces;
+}
+
+QTextCharFormat CharacterStyle(TextStyles& styles, const Piece& piece) {
+  return piece.smallCapitals ? styles.SmallCapital(piece.format) : styles.Character(piece.format);
 }
 
 // A symbol that a field stands for is shown by the typeface that the field names.
@@ -133,7 +156,7 @@ void DocumentBinder::Insert(QTextCursor& cursor, Range range) {
     const FontFace& face = text_.Doc().Fonts()[text_.Doc().Formats()[piece.format].look.font];
     std::u32string shown = ShownInText(Part(piece.range), face.name);
     ShowSymbolFields(shown, text_.Doc(), piece.range.begin);
-    const QTextCharFormat style = styles_.Character(piece.format);
+    const QTextCharFormat style = CharacterStyle(styles_, piece);
     std::size_t line = 0;
     for (;;) {
       const std::size_t end = std::min(shown.find(kParagraphEnd, line), shown.size());
@@ -176,7 +199,7 @@ void DocumentBinder::ShowFormats(const std::vector<Range>& ranges) {
     for (const Piece& piece : PiecesOf(text_.Doc(), range)) {
       cursor.setPosition(positions.ToWidget(piece.range.begin));
       cursor.setPosition(positions.ToWidget(piece.range.end), QTextCursor::KeepAnchor);
-      cursor.setCharFormat(styles_.Character(piece.format));
+      cursor.setCharFormat(CharacterStyle(styles_, piece));
     }
   }
   cursor.endEditBlock();

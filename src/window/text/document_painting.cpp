@@ -71,6 +71,10 @@ void DocumentView::paintEvent(QPaintEvent* event) {
     selection.format.setBackground(hasFocus() ? kHighlight : kHighlightWithoutFocus);
     context.selections.append(selection);
   }
+  // What a paragraph has around it may reach into what is above it.
+  const QTextBlock top = PageLayout::Of(*document()).ParagraphAt(clip.top());
+  const QTextBlock first = top.previous().isValid() ? top.previous() : top;
+  decoration_.DrawBehind(painter, first, clip.bottom());
   document()->documentLayout()->draw(&painter, context);
   if (!above.isEmpty()) {
     context.selections.clear();
@@ -78,8 +82,7 @@ void DocumentView::paintEvent(QPaintEvent* event) {
     document()->documentLayout()->draw(&painter, context);
   }
   painter.setClipRect(clip);
-  const QTextBlock top = PageLayout::Of(*document()).ParagraphAt(clip.top());
-  decoration_.Draw(painter, top.previous().isValid() ? top.previous() : top, clip.bottom());
+  decoration_.Draw(painter, first, clip.bottom());
 }
 
 // Raised characters stand out of the top of their line. There the toolkit cuts off the selected

@@ -10,11 +10,15 @@
 #include <utility>
 
 #include "rtf/decoration.h"
+#include "text/marks.h"
 #include "text/unicode.h"
 #include "window/page/page_layout.h"
 #include "window/page/zoom.h"
 #include "window/shared/shown.h"
 #include "window/shared/symbols.h"
+#include "window/text/paragraph_borders.h"
+#include "window/text/run_lines.h"
+#include "window/text/tab_leaders.h"
 
 namespace quill {
 namespace {
@@ -71,11 +75,28 @@ QTextBlockFormat WithLabelRoom(QTextBlockFormat style, const Document& document,
 }
 
 ParagraphDecoration::ParagraphDecoration(const Document& document, const PositionMap& positions)
-    : document_(document), positions_(positions), notes_(document, positions) {}
+    : document_(document),
+      positions_(positions),
+      notes_(document, positions),
+      frames_(document, positions) {}
 
 void ParagraphDecoration::Clear() {
   labels_.clear();
   notes_.Clear();
+  frames_.Clear();
+}
+
+void ParagraphDecoration::DrawBehind(QPainter& painter, const QTextBlock& first, int bottom) {
+  const QAbstractTextDocumentLayout& layout = *first.document()->documentLayout();
+  for (QTextBlock block = first; block.isValid(); block = block.next()) {
+    if (layout.blockBoundingRect(block).top() > bottom) break;
+    if (RowOf(block) == nullptr) DrawFrame(painter, block, frames_, InkOf(block));
+  }
+}
+
+Colour ParagraphDecoration::InkOf(const QTextBlock& block) const {
+  const Position at = positions_.ToModel(block.position());
+  return at < document_.Length() ? document_.FormatAt(at).written.colour : kPlain;
 }
 
 void ParagraphDecoration::Draw(QPainter& painter, const QTextBlock& first, int bottom) {
@@ -86,6 +107,8 @@ void ParagraphDecoration::Draw(QPainter& painter, const QTextBlock& first, int b
     DrawLabels(painter, block);
     DrawPageEnd(painter, block);
     notes_.Draw(painter, block);
+    DrawRunLines(painter, block, document_, positions_);
+    if (RowOf(block) == nullptr) DrawTabLeaders(painter, block, frames_.Of(block).tabs);
   }
 }
 

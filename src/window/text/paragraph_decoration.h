@@ -1,11 +1,12 @@
 // What is drawn around paragraphs without being text of theirs: the labels of lists in front of
-// them, the ends of pages below them, and the ticks of notes.
+// them, the ends of pages below them, the ticks of notes, and what their author put around them.
 #pragma once
 
 #include <QString>
 #include <QTextBlockFormat>
 #include <unordered_map>
 
+#include "window/text/paragraph_frames.h"
 #include "window/text/position_map.h"
 #include "window/text/text_notes.h"
 
@@ -32,7 +33,9 @@ class ParagraphDecoration {
   const TextNotes& Notes() const { return notes_; }
   // Forgets the labels and notes of the text before.
   void Clear();
-  // Draws what belongs to the paragraphs of a stretch of the widget's text.
+  // Draw what belongs to the paragraphs of a stretch of the widget's text: what is behind the text,
+  // before that is painted, and what is over it.
+  void DrawBehind(QPainter& painter, const QTextBlock& first, int bottom);
   void Draw(QPainter& painter, const QTextBlock& first, int bottom);
 
  private:
@@ -42,10 +45,13 @@ class ParagraphDecoration {
   void DrawLabels(QPainter& painter, const QTextBlock& block);
   void DrawPageEnd(QPainter& painter, const QTextBlock& block) const;
   QString LabelAt(int place);
+  // The colour in which the file has a paragraph's beginning.
+  Colour InkOf(const QTextBlock& block) const;
 
   const Document& document_;
   const PositionMap& positions_;
   TextNotes notes_;
+  ParagraphFrames frames_;
   std::unordered_map<Offset, QString> labels_;  // by where the paragraph's first character stands
 };
 

@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/marks.h"
 #include "window/page/row_layout.h"
 #include "window/shared/appearance.h"
+#include "window/text/paragraph_borders.h"
 #include "window/text/text_pictures.h"
 
 namespace quill {
@@ -18,10 +20,18 @@ namespace {
 constexpr int kLeastHalfPoints = 4;
 constexpr int kMostHalfPoints = 400;
 constexpr int kMostTwips = 7200;
+constexpr Twips kMostPage = 31680;
 
-double PixelsOf(std::int16_t twips) {
-  return std::clamp<int>(twips, -kMostTwips, kMostTwips) / 15.0;
-}
+constexpr double kSmallCapital = 0.8;  // of a letter's size
+
+constexpr int kLeastLine = 60;  // twips
+constexpr int kMostLines = 10;
+constexpr int kLineInTwips = 240;  // as the spacing of lines is counted
+
+// Deleted and hidden text: read well enough, and paler than the rest.
+constexpr Colour kFaded = RGB(112, 112, 112);
+
+double PixelsOf(int twips) { return std::clamp(twips, -kMostTwips, kMostTwips) / 15.0; }
 
 int ShownHalfPoints(const CharacterLook& look) {
   return std::clamp<int>(look.halfPoints, kLeastHalfPoints, kMostHalfPoints);
@@ -65,11 +75,16 @@ QTextCharFormat CharacterStyle(const Format& format, const std::vector<FontFace>
   QTextCharFormat style;
   style.setObjectType(TextPictures::kObjectType);
   SetFont(style, look, fonts);
-  style.setForeground(ToQColor(format.now.colour));
+  style.setForeground(ToQColor(ShownColour(format)));
   style.setFontWeight(format.now.bold ? QFont::Bold : QFont::Normal);
   style.setFontUnderline(format.now.underline);
   style.setFontItalic(look.italic);
-  style.setFontStrikeOut(look.struckOut);
+  style.setFontStrikeOut(look.struckOut || look.deleted);
+  if (look.capitals == Capitals::kAll) style.setFontCapitalization(QFont::AllUppercase);
+  if (look.spacing != 0) {
+    style.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+    style.setFontLetterSpacing(PixelsOf(look.spacing));
+  }
   if (look.background >= 0) style.setBackground(ToQColor(static_cast<Colour>(look.background)));
   if (look.script != 0) {
     style.setVerticalAlignment(look.script > 0 ? QTextCharFormat::AlignSuperScript
@@ -94,19 +109,62 @@ Qt::Alignment AlignmentOf(const ParagraphLook& look) {
   }
 }
 
+void SetLineSpacing(QTextBlockFormat& style, const ParagraphLook& look) {
+  const int spacing = look.lineSpacing;
+  if (look.proportional) {
+    if (spacing <= 0 || spacing == kLineInTwips) return;
+    style.setLineHeight(
+        100.0 * std::clamp(spacing, kLineInTwips / 2, kMostLines * kLineInTwips) / kLineInTwips,
+        QTextBlockFormat::ProportionalHeight);
+  } else if (spacing > 0) {
+    style.setLineHeight(PixelsOf(spacing), QTextBlockFormat::MinimumHeight);
+  } else if (spacing < 0) {
+    style.setLineHeight(PixelsOf(std::max(-spacing, kLeastLine)), QTextBlockFormat::FixedHeight);
+  }
+}
+
+QTextOption::TabType TypeOf(TabAlignment alignment) {
+  switch (alignment) {
+    case TabAlignment::kCentre:
+      return QTextOption::CenterTab;
+    case TabAlignment::kRight:
+      return QTextOption::RightTab;
+    case TabAlignment::kDecimal:
+      return QTextOption::DelimiterTab;
+    default:
+      return QTextOption::LeftTab;
+  }
+}
+
+void SetTabs(QTextBlockFormat& style, const std::vector<TabStop>& stops) {
+  QList<QTextOption::Tab> tabs;
+  for (const TabStop& stop : stops) {
+    tabs.append(
+        QTextOption::Tab(std::min(stop.position, kMostPage) / 15.0, TypeOf(stop.alignment), u'.'));
+  }
+  if (!tabs.isEmpty()) style.setTabPositions(tabs);
+}
+
 }  // namespace
 
-QTextBlockFormat ParagraphStyle(const ParagraphLook& look) {
+QTextBlockFormat ParagraphStyle(const ParagraphLook& look, const ParagraphFrame& frame) {
   QTextBlockFormat style;
   style.setAlignment(AlignmentOf(look));
   style.setLayoutDirection(look.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
   style.setLeftMargin(std::max(0.0, PixelsOf(look.left)));
   style.setRightMargin(std::max(0.0, PixelsOf(look.right)));
   style.setTextIndent(std::max(PixelsOf(look.first), -style.leftMargin()));
-  style.setTopMargin(std::max(0.0, PixelsOf(look.before)));
-  style.setBottomMargin(std::max(0.0, PixelsOf(look.after)));
+  style.setTopMargin(std::max(0.0, PixelsOf(look.before)) + RoomOf(frame.borders[kTopBorder]));
+  style.setBottomMargin(std::max(0.0, PixelsOf(look.after)) + RoomOf(frame.borders[kBottomBorder]));
+  SetLineSpacing(style, look);
+  SetTabs(style, frame.tabs);
   if (look.inTable) SetInTable(style);
   return style;
+}
+
+Colour ShownColour(const Format& format) {
+  const bool faded = format.look.deleted || format.look.hidden;
+  return faded && !IsMarkColour(format.now.colour) ? kFaded : format.now.colour;
 }
 
 double RaisedPercent(Twips offset, int halfPoints) {
@@ -134,13 +192,23 @@ void TextStyles::Learn(FormatId id) {
   }
   const Format& format = document_->Formats()[id];
   characters_[id] = CharacterStyle(format, document_->Fonts());
-  paragraphs_[id] = ParagraphStyle(format.paragraph);
+  paragraphs_[id] = ParagraphStyle(
+      format.paragraph, FrameOf(document_->Formats().Details()[format.paragraph.details]));
   known_[id] = true;
 }
 
 const QTextCharFormat& TextStyles::Character(FormatId id) {
   Learn(id);
   return characters_[id];
+}
+
+QTextCharFormat TextStyles::SmallCapital(FormatId id) {
+  QTextCharFormat style = Character(id);
+  style.setFontCapitalization(QFont::AllUppercase);
+  style.setFontPointSize(style.fontPointSize() * kSmallCapital);
+  // It is a part of the letter's size, and all letters of a word are raised alike.
+  style.setBaselineOffset(style.baselineOffset() / kSmallCapital);
+  return style;
 }
 
 const QTextBlockFormat& TextStyles::Paragraph(FormatId id) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "text/document.h"
+#include "text/paragraph_frame.h"
 
 namespace quill {
 
@@ -16,6 +17,9 @@ class TextStyles {
   void Use(const Document& document);
 
   const QTextCharFormat& Character(FormatId id);
+  // Of a small letter that is shown as a small capital. (The toolkit's own ones lose their size
+  // when a text is zoomed.)
+  QTextCharFormat SmallCapital(FormatId id);
   const QTextBlockFormat& Paragraph(FormatId id);
 
  private:
@@ -26,7 +30,11 @@ class TextStyles {
   void Learn(FormatId id);
 };
 
-QTextBlockFormat ParagraphStyle(const ParagraphLook& look);
+QTextBlockFormat ParagraphStyle(const ParagraphLook& look, const ParagraphFrame& frame = {});
+
+// The colour in which a character is written: its own, but grey where it is deleted or hidden and
+// no mark says more.
+Colour ShownColour(const Format& format);
 
 // How far above the baseline an offset is drawn, in percent of the font's height.
 double RaisedPercent(Twips offset, int halfPoints);
