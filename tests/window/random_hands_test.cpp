@@ -221,7 +221,9 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
   std::map<const ListBox*, int> RowsAfter(const std::string& line) const {
     const LineHands::Target target = hands_.TargetOf(line);
     const auto* const list = dynamic_cast<const ListBox*>(ControlOf(form, target.widget));
-    if (list == nullptr || line.starts_with("drag")) return {};
+    // A file that is dropped on a list may be opened, with other tags.
+    const bool mayMove = line.starts_with("drag") || line.starts_with("drop file");
+    if (list == nullptr || mayMove) return {};
     const bool left = line.find(" left ") != std::string::npos;
     const auto* const view = qobject_cast<QAbstractItemView*>(target.widget->parentWidget());
     if (!left || view == nullptr || !list->IsInReach()) return {{list, list->ListIndex}};
