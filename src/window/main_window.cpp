@@ -300,6 +300,16 @@ void MainWindow::timerEvent(QTimerEvent* event) {
 
 // --- Focus -----------------------------------------------------------------------------------
 
+// A control that was hidden while the window was in the background still counts as the toolkit's
+// choice for the keyboard; the toolkit would pass over it to whichever control is next.
+bool MainWindow::event(QEvent* event) {
+  const QWidget* const chosen = focusWidget();
+  if (event->type() == QEvent::WindowActivate && chosen != nullptr && !chosen->isVisible()) {
+    desk_->setFocus(Qt::OtherFocusReason);
+  }
+  return QMainWindow::event(event);
+}
+
 bool MainWindow::focusNextPrevChild(bool /*next*/) {
   desk_->setFocus(Qt::OtherFocusReason);
   return true;

@@ -44,6 +44,7 @@ class MainWindow final : public QMainWindow {
   bool eventFilter(QObject* object, QEvent* event) override;
   // The toolkit's own moves of the focus, for instance away from a disabled or hidden widget, end
   // where keys do no harm.
+  bool event(QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
