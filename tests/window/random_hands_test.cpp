@@ -267,6 +267,25 @@ class Walk : ShownProgram<PosixDisk, WindowDialogs> {
   std::string source_;
 };
 
+// Nothing waits for a second click or a second letter. Other tests of the process do.
+class NoWaiting {
+ public:
+  NoWaiting() {
+    QApplication::setDoubleClickInterval(1);
+    QApplication::setKeyboardInputInterval(0);
+  }
+  ~NoWaiting() {
+    QApplication::setDoubleClickInterval(doubleClick_);
+    QApplication::setKeyboardInputInterval(letters_);
+  }
+  NoWaiting(const NoWaiting&) = delete;
+  NoWaiting& operator=(const NoWaiting&) = delete;
+
+ private:
+  int doubleClick_ = QApplication::doubleClickInterval();
+  int letters_ = QApplication::keyboardInputInterval();
+};
+
 int Setting(const char* name, int usual) {
   const char* const value = std::getenv(name);
   return value == nullptr ? usual : std::atoi(value);
@@ -274,9 +293,7 @@ int Setting(const char* name, int usual) {
 
 TEST(RandomHands, SeeWhatTheModelHolds) {
   constexpr int kLongestWalk = 300;
-  // Lists that have just dropped down are clicked at once.
-  QApplication::setDoubleClickInterval(1);
-  QApplication::setKeyboardInputInterval(0);
+  const NoWaiting noWaiting;
   const QtMessageHandler former = qInstallMessageHandler(Collect);
   std::signal(SIGABRT, Record::TellAtEnd);
   const char* const toPlay = std::getenv("QUILL_WALK_RECORD");
