@@ -1,6 +1,7 @@
 #include "text/paragraph_frame.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace quill {
@@ -63,7 +64,7 @@ class Shading {
   unsigned Part(unsigned shift) const {
     const unsigned front = front_ >> shift & 255U;
     const unsigned back = back_ >> shift & 255U;
-    return static_cast<unsigned>(front * amount_ + back * (1 - amount_) + 0.5);
+    return static_cast<unsigned>(std::lround(front * amount_ + back * (1 - amount_)));
   }
 
   double amount_ = 0;  // of the front colour

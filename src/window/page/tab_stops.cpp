@@ -23,8 +23,9 @@ bool StandsBefore(const QTextOption::Tab& a, const QTextOption::Tab& b) {
 // Behind the others, as far as the page goes.
 void AddUsualStops(QList<QTextOption::Tab>& stops, double distance, double width) {
   const double last = stops.isEmpty() ? 0 : stops.back().position;
-  for (double at = (std::floor(last / distance) + 1) * distance; at < width; at += distance) {
-    stops.append(QTextOption::Tab(at, QTextOption::LeftTab));
+  for (int stop = static_cast<int>(std::floor(last / distance)) + 1; stop * distance < width;
+       ++stop) {
+    stops.append(QTextOption::Tab(stop * distance, QTextOption::LeftTab));
   }
 }
 

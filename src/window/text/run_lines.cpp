@@ -59,9 +59,11 @@ class RunLines {
     const double to = PlaceOf(line, hidden.end);
     const double y = std::round(place.top() + line.ascent() + kDotsBelow * page_.scale);
     const double size = Thick(kDot);
+    const double first = std::round(std::min(from, to));
     const double last = std::max(from, to) - size;
-    for (double x = std::round(std::min(from, to)); x <= last; x += Thick(kDotStep)) {
-      painter_.fillRect(QRectF(x, y, size, size), kGrey);
+    const double step = Thick(kDotStep);
+    for (int dot = 0; first + dot * step <= last; ++dot) {
+      painter_.fillRect(QRectF(first + dot * step, y, size, size), kGrey);
     }
   }
 
