@@ -27,10 +27,21 @@ std::string_view InFrontOf(const Document& document, Position paragraph) {
   return std::string_view(document.GetSource().bytes).substr(end - length, length);
 }
 
+// Goes forward, from one first character to the next: asked of every paragraph, the search from the
+// end took a seventh of the time of opening.
+std::size_t FindLast(std::string_view bytes, std::string_view word) {
+  std::size_t last = std::string_view::npos;
+  for (std::size_t at = bytes.find(word); at != std::string_view::npos;
+       at = bytes.find(word, at + 1)) {
+    last = at;
+  }
+  return last;
+}
+
 // Where a label's group has its content; empty where there is none.
 std::string_view LabelIn(std::string_view bytes) {
   for (const std::string_view head : {"{\\listtext", "{\\pntext"}) {
-    const std::size_t at = bytes.rfind(head);
+    const std::size_t at = FindLast(bytes, head);
     if (at != std::string_view::npos) return bytes.substr(at + head.size(), kMostLabelBytes);
   }
   return {};
@@ -73,7 +84,7 @@ bool EndsPage(const Document& document, Position paragraphEnd) {
     return between.find("\\sbknone") == std::string_view::npos &&
            between.find("\\sbkcol") == std::string_view::npos;
   }
-  const std::size_t word = between.rfind("\\pagebb");
+  const std::size_t word = FindLast(between, "\\pagebb");
   return word != std::string_view::npos && !between.substr(word).starts_with("\\pagebb0") &&
          between.find("\\pard", word) == std::string_view::npos;
 }
