@@ -10,12 +10,12 @@
 
 #include "window/page/page_layout.h"
 #include "window/shared/appearance.h"
+#include "window/shared/lengths.h"
 #include "window/text/paragraph_frames.h"
 
 namespace quill {
 namespace {
 
-constexpr double kTwipsInPixel = 15;
 constexpr Twips kMostWidth = 120;
 constexpr Twips kLeastGap = 20;
 constexpr Twips kMostGap = 620;

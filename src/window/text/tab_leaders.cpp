@@ -7,12 +7,12 @@
 #include <cmath>
 
 #include "window/page/page_layout.h"
+#include "window/shared/lengths.h"
 #include "window/text/lines_in_sight.h"
 
 namespace quill {
 namespace {
 
-constexpr double kTwipsInPixel = 15;
 constexpr double kDot = 1;  // and everything else in pixels of 1/96 inch
 constexpr double kDotStep = 4;
 constexpr double kHyphen = 4;

@@ -4,13 +4,13 @@
 #include <string_view>
 #include <utility>
 
+#include "window/shared/lengths.h"
 #include "window/text/paragraph_decoration.h"
 #include "window/text/text_styles.h"
 
 namespace quill {
 namespace {
 
-constexpr double kTwipsInPixel = 15;
 constexpr int kMostParagraphs = 256;
 constexpr std::size_t kMostCells = 64;
 constexpr double kUsualWidth = 600;  // of a row whose file tells nothing

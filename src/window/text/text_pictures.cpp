@@ -12,12 +12,12 @@
 
 #include "text/unicode.h"
 #include "window/page/page_layout.h"
+#include "window/shared/lengths.h"
 
 namespace quill {
 namespace {
 
 // Twips in a pixel of 1/96 inch, as the toolkit counts lengths in a text.
-constexpr double kTwipsInPixel = 15;
 // Of pictures whose size the file does not tell.
 constexpr double kLeastLength = 16;
 constexpr int kMostCachedKilobytes = 64 * 1024;

@@ -10,6 +10,7 @@
 #include "text/marks.h"
 #include "window/page/row_layout.h"
 #include "window/shared/appearance.h"
+#include "window/shared/lengths.h"
 #include "window/text/paragraph_borders.h"
 #include "window/text/text_pictures.h"
 
@@ -31,7 +32,7 @@ constexpr int kLineInTwips = 240;  // as the spacing of lines is counted
 // Deleted and hidden text: read well enough, and paler than the rest.
 constexpr Colour kFaded = RGB(112, 112, 112);
 
-double PixelsOf(int twips) { return std::clamp(twips, -kMostTwips, kMostTwips) / 15.0; }
+double PixelsOf(int twips) { return std::clamp(twips, -kMostTwips, kMostTwips) / kTwipsInPixel; }
 
 int ShownHalfPoints(const CharacterLook& look) {
   return std::clamp<int>(look.halfPoints, kLeastHalfPoints, kMostHalfPoints);
@@ -139,8 +140,8 @@ QTextOption::TabType TypeOf(TabAlignment alignment) {
 void SetTabs(QTextBlockFormat& style, const std::vector<TabStop>& stops) {
   QList<QTextOption::Tab> tabs;
   for (const TabStop& stop : stops) {
-    tabs.append(
-        QTextOption::Tab(std::min(stop.position, kMostPage) / 15.0, TypeOf(stop.alignment), u'.'));
+    tabs.append(QTextOption::Tab(std::min(stop.position, kMostPage) / kTwipsInPixel,
+                                 TypeOf(stop.alignment), u'.'));
   }
   if (!tabs.isEmpty()) style.setTabPositions(tabs);
 }
